@@ -1,0 +1,106 @@
+// Bakes the pictures into the files that the game, the desktop and the reviewer look at.
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+
+#include "art/bitmap.h"
+#include "art/icon.h"
+#include "art/picture_hash.h"
+#include "art/png_file.h"
+#include "art/sheets.h"
+#include "art/svg.h"
+#include "art/title.h"
+
+namespace gloomdeck::art {
+namespace {
+
+namespace fs = std::filesystem;
+
+void write(const fs::path& file, const std::string& bytes) {
+    if (file.has_parent_path()) fs::create_directories(file.parent_path());
+    std::ofstream out(file, std::ios::binary);
+    out << bytes;
+    if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
+}
+
+void bakeBitmaps(const fs::path& folder) {
+    write(folder / "dtiles.bmp", bitmapFile(tileStrip(1, 49)));
+    write(folder / "dtiles2.bmp", bitmapFile(tileStrip(50, 98)));
+    write(folder / "dtiles3.bmp", bitmapFile(tileStrip(99, 148)));
+    write(folder / "dtitle.bmp", bitmapFile(paintTitle()));
+}
+
+void bakeIcons(const fs::path& folder) {
+    for (const int size : iconSizes) {
+        const std::string n = std::to_string(size);
+        write(folder / (n + "x" + n) / "apps" / "gloomdeck.png", pngFile(paintIcon(size)));
+    }
+    write(folder / "scalable" / "apps" / "gloomdeck.svg", svgFile(paintIcon(64)));
+}
+
+void bakeWindowIcon(const fs::path& file) {
+    constexpr int size = 64;
+    const Canvas icon = paintIcon(size);
+    std::string out =
+        "// The icon of the window, 0xAARRGGBB; baked from the artwork.\n#pragma once\n\n#include "
+        "<cstdint>\n\n"
+        "namespace gloomdeck {\n\ninline constexpr int windowIconSize = 64;\n"
+        "inline constexpr std::uint32_t windowIconPixels[64 * 64] = {\n";
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            char pixel[16];
+            const unsigned argb = icon.painted(x, y) ? 0xFF000000u | icon.colour(x, y) : 0u;
+            std::snprintf(pixel, sizeof pixel, "0x%08Xu,", argb);
+            out += pixel;
+        }
+        out += "\n";
+    }
+    write(file, out + "};\n\n}  // namespace gloomdeck\n");
+}
+
+void bakeSheets(const fs::path& folder) {
+    for (const Sheet& sheet : contactSheets()) write(folder / (sheet.name + ".png"), pngFile(sheet.picture));
+}
+
+bool bake(const std::string& option, const std::string& target) {
+    if (option == "--icons") {
+        bakeIcons(target);
+    } else if (option == "--window-icon") {
+        bakeWindowIcon(target);
+    } else if (option == "--sheet") {
+        bakeSheets(target);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool run(int argc, char** argv) {
+    const std::string first = argc > 1 ? argv[1] : "";
+    if (argc == 3) return bake(first, argv[2]);
+    if (argc != 2) return false;
+    if (first == "--hashes") {
+        for (const std::string& line : hashLines()) std::puts(line.c_str());
+        return true;
+    }
+    if (first.empty() || first.starts_with("-")) return false;
+    bakeBitmaps(first);
+    return true;
+}
+
+}  // namespace
+}  // namespace gloomdeck::art
+
+int main(int argc, char** argv) {
+    try {
+        if (gloomdeck::art::run(argc, argv)) return 0;
+        std::fputs(
+            "usage: artbake FOLDER | --icons FOLDER | --window-icon FILE | --sheet FOLDER | --hashes\n",
+            stderr);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "artbake: %s\n", failure.what());
+    }
+    return 1;
+}

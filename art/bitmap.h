@@ -1,0 +1,16 @@
+// 24-bit bitmaps and the strips of tiles that the game loads.
+#pragma once
+
+#include <string>
+
+#include "art/canvas.h"
+
+namespace gloomdeck::art {
+
+// A bottom-up 24-bit bitmap file; unpainted pixels have the key colour.
+std::string bitmapFile(const Canvas& picture);
+
+// Tiles first .. last side by side; unused numbers stay unpainted.
+Canvas tileStrip(int first, int last);
+
+}  // namespace gloomdeck::art

@@ -1,0 +1,12 @@
+// The application icon: the crowned skull on transparent ground.
+#pragma once
+
+#include "art/canvas.h"
+
+namespace gloomdeck::art {
+
+inline constexpr int iconSizes[] = {16, 32, 48, 64, 128, 256};
+
+Canvas paintIcon(int size);
+
+}  // namespace gloomdeck::art

@@ -1,0 +1,25 @@
+// The title picture, which fills the whole window.
+#pragma once
+
+#include "art/canvas.h"
+
+namespace gloomdeck::art {
+
+inline constexpr int titleWidth = 408, titleHeight = 488;
+
+Canvas paintTitle();
+
+// What it is made of, back to front, on units of its pixels.
+inline constexpr double titleMiddle = titleWidth / 2;
+void titleWall(Canvas& p);
+void titleTorches(Canvas& p);
+void titleRobe(Canvas& p);
+void titleSkull(Canvas& p);
+void titleCrown(Canvas& p);
+void titleName(Canvas& p);
+void titleCards(Canvas& p);
+
+// Closed polygon from its right half, offsets from the middle line, top to bottom.
+Field mirrored(const std::vector<double>& half);
+
+}  // namespace gloomdeck::art
