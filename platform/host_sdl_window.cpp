@@ -1,0 +1,181 @@
+#include "platform/host_sdl_window.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <vector>
+
+#include "window_icon.h"
+
+namespace gloomdeck::host {
+
+namespace {
+
+constexpr double commonPeriod = 1.0 / 60.0;
+constexpr int slowestRate = 10;  // pictures a second; a display that claims less does not know
+constexpr int bytesPerPixel = sizeof(Colour);
+
+SDL_Window* window = nullptr;
+SDL_Renderer* renderer = nullptr;  // only where the window has no surface that we can write to
+SDL_Texture* texture = nullptr;
+Extent frameSize;
+std::vector<Colour> shownPixels;
+double knownPeriod = 0;  // seconds; 0: not asked yet
+
+// The software path needs no graphics driver: a tenth of the memory, and one thread.
+void setHints() {
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11,wayland");
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+    setenv("SDL_VIDEO_X11_WMCLASS", "gloomdeck", 0);
+    setenv("SDL_VIDEO_WAYLAND_WMCLASS", "gloomdeck", 0);
+}
+
+Extent openingSize() {
+    SDL_Rect usable{};
+    if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return frameSize;
+    const int scale = openingScale({usable.w, usable.h});
+    return {frameSize.width * scale, frameSize.height * scale};
+}
+
+void setIcon() {
+    std::vector<Colour> pixels(std::begin(windowIconPixels), std::end(windowIconPixels));
+    SDL_Surface* icon =
+        SDL_CreateRGBSurfaceWithFormatFrom(pixels.data(), windowIconSize, windowIconSize, 32,
+                                           windowIconSize * bytesPerPixel, SDL_PIXELFORMAT_ARGB8888);
+    if (icon) SDL_SetWindowIcon(window, icon);
+    SDL_FreeSurface(icon);
+}
+
+bool createWindow(const std::string& title) {
+    constexpr Uint32 flags = SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI | SDL_WINDOW_HIDDEN;
+    const Extent size = openingSize();
+    window = SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, size.width,
+                              size.height, flags);
+    if (!window) return false;
+    SDL_SetWindowMinimumSize(window, frameSize.width, frameSize.height);
+    setIcon();
+    return true;
+}
+
+// The window's own pixels, when they are of the frame's kind.
+SDL_Surface* writableSurface() {
+    SDL_Surface* surface = SDL_GetWindowSurface(window);
+    if (!surface) return nullptr;
+    const Uint32 format = surface->format->format;
+    return format == SDL_PIXELFORMAT_RGB888 || format == SDL_PIXELFORMAT_ARGB8888 ? surface : nullptr;
+}
+
+// A window that was asked for its surface takes no renderer, so it is made anew.
+bool fallBackToRenderer(const std::string& title) {
+    SDL_DestroyWindow(window);
+    if (!createWindow(title)) return false;
+    renderer = SDL_CreateRenderer(window, -1, 0);
+    if (!renderer) return false;
+    texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
+                                frameSize.width, frameSize.height);
+    return texture != nullptr;
+}
+
+Extent drawingSize() {
+    Extent size{1, 1};
+    SDL_GetWindowSizeInPixels(window, &size.width, &size.height);
+    return {std::max(1, size.width), std::max(1, size.height)};
+}
+
+SDL_Rect asSdl(const Rect& r) { return {r.x1, r.y1, r.x2 - r.x1 + 1, r.y2 - r.y1 + 1}; }
+
+void paintSurface(bool around) {
+    SDL_Surface* surface = writableSurface();
+    if (!surface) return;
+    const Rect fit = fitFrame(frameSize, {surface->w, surface->h});
+    if (around) SDL_FillRect(surface, nullptr, 0);
+    drawFitted(shownPixels.data(), frameSize, fit, static_cast<Colour*>(surface->pixels),
+               surface->pitch / bytesPerPixel);
+    const SDL_Rect picture = asSdl(fit);
+    if (around)
+        SDL_UpdateWindowSurface(window);
+    else
+        SDL_UpdateWindowSurfaceRects(window, &picture, 1);
+}
+
+void paintRenderer() {
+    const Rect fit = fitFrame(frameSize, drawingSize());
+    const SDL_Rect picture = asSdl(fit);
+    const bool smaller = picture.w < frameSize.width || picture.h < frameSize.height;
+    SDL_SetTextureScaleMode(texture, smaller ? SDL_ScaleModeLinear : SDL_ScaleModeNearest);
+    SDL_UpdateTexture(texture, nullptr, shownPixels.data(), frameSize.width * bytesPerPixel);
+    SDL_SetRenderDrawColor(renderer, 0, 0, 0, SDL_ALPHA_OPAQUE);
+    SDL_RenderClear(renderer);
+    SDL_RenderCopy(renderer, texture, nullptr, &picture);
+    SDL_RenderPresent(renderer);
+}
+
+double askPeriod() {
+    SDL_DisplayMode mode{};
+    const int display = SDL_GetWindowDisplayIndex(window);
+    if (display < 0 || SDL_GetCurrentDisplayMode(display, &mode) != 0) return commonPeriod;
+    return mode.refresh_rate >= slowestRate ? 1.0 / mode.refresh_rate : commonPeriod;
+}
+
+}  // namespace
+
+bool openDesktopWindow(Extent frame, const std::string& title) {
+    frameSize = frame;
+    shownPixels.assign(static_cast<std::size_t>(frame.width) * static_cast<std::size_t>(frame.height),
+                       0xFF000000);
+    setHints();
+    if (SDL_Init(SDL_INIT_VIDEO) != 0 || !createWindow(title)) return false;
+    if (!writableSurface() && !fallBackToRenderer(title)) return false;
+    SDL_ShowWindow(window);
+    SDL_StartTextInput();
+    return true;
+}
+
+void closeDesktopWindow() {
+    SDL_Quit();
+    window = nullptr;
+}
+
+void titleDesktopWindow(const std::string& title) {
+    if (window) SDL_SetWindowTitle(window, title.c_str());
+}
+
+void showFrame(const Colour* pixels) {
+    std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
+    if (renderer)
+        paintRenderer();
+    else
+        paintSurface(false);
+}
+
+void repaintWindow() {
+    if (renderer)
+        paintRenderer();
+    else
+        paintSurface(true);
+}
+
+std::optional<Point> framePixelUnder(Point place) {
+    const Extent area = drawingSize();
+    Extent points = area;  // events count in these, fewer than pixels on a dense display
+    SDL_GetWindowSize(window, &points.width, &points.height);
+    if (points.width < 1 || points.height < 1) return std::nullopt;
+    const Point pixel{place.x * area.width / points.width, place.y * area.height / points.height};
+    return framePixelAt(frameSize, fitFrame(frameSize, area), pixel.x, pixel.y);
+}
+
+double displayPeriod() {
+    if (knownPeriod <= 0 && window) knownPeriod = askPeriod();
+    return window ? knownPeriod : commonPeriod;
+}
+
+void noteDisplayChange() { knownPeriod = 0; }
+
+}  // namespace gloomdeck::host

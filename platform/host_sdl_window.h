@@ -1,0 +1,32 @@
+// The desktop window: opening it, and showing the frame in it whatever its size.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/colour.h"
+#include "platform/geometry.h"
+#include "platform/scaling.h"
+
+namespace gloomdeck::host {
+
+/// Opens the window for frames of that size; false when there is no display to open it on.
+bool openDesktopWindow(Extent frame, const std::string& title);
+void closeDesktopWindow();
+
+void titleDesktopWindow(const std::string& title);
+
+/// Shows a frame and keeps it for repaints.
+void showFrame(const Colour* pixels);
+
+/// Shows the kept frame (black before the first) and the black around it again.
+void repaintWindow();
+
+/// The frame's pixel under a place in the window, as pointer events give it; none beside the picture.
+std::optional<Point> framePixelUnder(Point place);
+
+/// Seconds between two pictures of the display that the window is on; asked again after noteDisplayChange.
+double displayPeriod();
+void noteDisplayChange();
+
+}  // namespace gloomdeck::host

@@ -1,0 +1,90 @@
+#include "platform/scaling.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr Extent roomForOne{816, 732};  // usable pixels for each step of the opening scale
+constexpr int largestOpening = 4;
+
+int widthOf(const Rect& r) { return r.x2 - r.x1 + 1; }
+int heightOf(const Rect& r) { return r.y2 - r.y1 + 1; }
+
+// The picture's size where not even one multiple fits.
+Extent shrunk(Extent frame, Extent area) {
+    const bool narrow = area.width * frame.height <= area.height * frame.width;
+    if (narrow) return {area.width, std::max(1, area.width * frame.height / frame.width)};
+    return {std::max(1, area.height * frame.width / frame.height), area.height};
+}
+
+void enlarge(const Colour* pixels, Extent frame, int scale, Colour* target, int pitch) {
+    const int width = frame.width * scale;
+    for (int y = 0; y < frame.height; ++y) {
+        Colour* const firstRow = target;
+        for (int x = 0; x < frame.width; ++x) std::fill_n(firstRow + x * scale, scale, *pixels++);
+        target += pitch;
+        for (int copy = 1; copy < scale; ++copy, target += pitch) std::copy_n(firstRow, width, target);
+    }
+}
+
+// The mean of a box of pixels, channel by channel.
+Colour meanOf(const Colour* pixels, Extent box, int pitch) {
+    std::uint32_t red = 0;
+    std::uint32_t green = 0;
+    std::uint32_t blue = 0;
+    for (int y = 0; y < box.height; ++y, pixels += pitch)
+        for (int x = 0; x < box.width; ++x) {
+            red += pixels[x] >> 16 & 0xFF;
+            green += pixels[x] >> 8 & 0xFF;
+            blue += pixels[x] & 0xFF;
+        }
+    const auto count = static_cast<std::uint32_t>(box.width * box.height);
+    return 0xFF000000 | red / count << 16 | green / count << 8 | blue / count;
+}
+
+void shrink(const Colour* pixels, Extent frame, Extent picture, Colour* target, int pitch) {
+    for (int y = 0; y < picture.height; ++y, target += pitch) {
+        const int top = y * frame.height / picture.height;
+        const int bottom = (y + 1) * frame.height / picture.height;
+        for (int x = 0; x < picture.width; ++x) {
+            const int left = x * frame.width / picture.width;
+            const int right = (x + 1) * frame.width / picture.width;
+            const Colour* const corner = pixels + static_cast<std::ptrdiff_t>(top) * frame.width + left;
+            target[x] = meanOf(corner, {right - left, bottom - top}, frame.width);
+        }
+    }
+}
+
+}  // namespace
+
+int openingScale(Extent usable) {
+    const int scale = std::min(usable.width / roomForOne.width, usable.height / roomForOne.height);
+    return std::clamp(scale, 1, largestOpening);
+}
+
+Rect fitFrame(Extent frame, Extent area) {
+    const int scale = std::min(area.width / frame.width, area.height / frame.height);
+    const Extent picture =
+        scale >= 1 ? Extent{frame.width * scale, frame.height * scale} : shrunk(frame, area);
+    const int x = (area.width - picture.width) / 2;
+    const int y = (area.height - picture.height) / 2;
+    return {x, y, x + picture.width - 1, y + picture.height - 1};
+}
+
+std::optional<Point> framePixelAt(Extent frame, const Rect& fit, int x, int y) {
+    if (!contains(fit, x, y)) return std::nullopt;
+    return Point{(x - fit.x1) * frame.width / widthOf(fit), (y - fit.y1) * frame.height / heightOf(fit)};
+}
+
+void drawFitted(const Colour* pixels, Extent frame, const Rect& fit, Colour* area, int pitch) {
+    Colour* const corner = area + static_cast<std::ptrdiff_t>(fit.y1) * pitch + fit.x1;
+    const Extent picture{widthOf(fit), heightOf(fit)};
+    if (picture.width < frame.width || picture.height < frame.height)
+        return shrink(pixels, frame, picture, corner, pitch);
+    enlarge(pixels, frame, picture.width / frame.width, corner, pitch);
+}
+
+}  // namespace gloomdeck
