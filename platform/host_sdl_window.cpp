@@ -24,9 +24,17 @@ Extent frameSize;
 std::vector<Colour> shownPixels;
 double knownPeriod = 0;  // seconds; 0: not asked yet
 
+bool isSet(const char* variable) { return std::getenv(variable) != nullptr; }
+
+// Where nothing speaks of Wayland its library would complain on standard error.
+const char* windowSystems() {
+    const bool wayland = isSet("XDG_RUNTIME_DIR") || isSet("WAYLAND_DISPLAY") || isSet("WAYLAND_SOCKET");
+    return wayland ? "x11,wayland" : "x11";
+}
+
 // The software path needs no graphics driver: a tenth of the memory, and one thread.
 void setHints() {
-    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11,wayland");
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, windowSystems());
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
