@@ -119,7 +119,7 @@ Field star(double cx, double cy, int n, double outer, double inner, double turn)
     return poly(corners);
 }
 
-Field everywhere() { return box(-9, -9, 999, 999); }
+Field everywhere() { return box(-9, -9, 9999, 9999); }
 
 Field join(std::vector<Field> shapes) {
     Bounds b = shapes.front().bounds;

@@ -53,17 +53,8 @@ Canvas ruinsAndCragsRubble() {
     static constexpr Block boulders[] = {
         {-4, -2, 18, 16}, {14, -3, 14, 14}, {-2, 14, 13, 16}, {11, 12, 17, 18}};
     Canvas t = masonry(ramp::mossy, boulders, {5, 2.6, 1.0, 1.3, .6, 4, .8});
-    return t.dots(ramp::mossy[5], {{2, 27},
-                                   {3, 26},
-                                   {4, 27},
-                                   {3, 28},
-                                   {20, 10},
-                                   {21, 9},
-                                   {22, 10},
-                                   {27, 20},
-                                   {28, 19},
-                                   {12, 14},
-                                   {13, 13}});
+    t.dots(ramp::mossy[5], {{2, 27}, {3, 26}, {4, 27}, {3, 28}, {12, 14}, {13, 13}});
+    return t.dots(ramp::mossy[5], {{20, 10}, {21, 9}, {22, 10}, {27, 20}, {28, 19}});
 }
 
 Canvas portalSwirl() {

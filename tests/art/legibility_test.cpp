@@ -1,0 +1,88 @@
+// Pictures must be told apart from far away, in grey and without green cones, on every terrain.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "art/eyesight.h"
+#include "tests/art/tiles_under_test.h"
+
+namespace gloomdeck::art {
+namespace {
+
+using View = Colour (*)(Colour);
+constexpr View views[] = {grey, deuteranopia};
+
+// A tile as it is seen on each terrain in each view, always in the same order.
+using Looks = std::vector<Squint>;
+
+Looks looksOf(int number) {
+    Looks looks;
+    for (const View view : views) {
+        for (const int ground : terrains) looks.push_back(squint(seenOver(tile(number), tile(ground), view)));
+    }
+    return looks;
+}
+
+double closest(const Looks& a, const Looks& b) {
+    double nearest = 1e9;
+    for (std::size_t i = 0; i < a.size(); ++i) nearest = std::min(nearest, squintDistance(a[i], b[i]));
+    return nearest;
+}
+
+TEST(Legibility, AnyTwoThingsDifferAtAGlance) {
+    std::map<int, Looks> looks;
+    for (const int number : encounters) looks.emplace(number, looksOf(number));
+    for (const int number : items) looks.emplace(number, looksOf(number));
+    for (const auto& [a, looksOfA] : looks) {
+        for (const auto& [b, looksOfB] : looks) {
+            if (a >= b) continue;
+            EXPECT_GE(closest(looksOfA, looksOfB), 20) << a << " and " << b;
+        }
+    }
+}
+
+TEST(Legibility, TheHarderVersionOfAThingIsUnmistakable) {
+    for (const auto& [easy, hard] : {std::pair{93, 82}, {5, 28}, {69, 18}, {17, 41}}) {
+        EXPECT_GE(closest(looksOf(easy), looksOf(hard)), 35) << easy << " and " << hard;
+    }
+}
+
+TEST(Legibility, MarkedGoldTellsItsMarks) {
+    for (const auto& [a, b] : {std::pair{75, 74}, {75, 68}, {74, 68}}) {
+        EXPECT_GE(closest(looksOf(a), looksOf(b)), 25) << a << " and " << b;
+    }
+}
+
+// Mean luma of the pixels that pass.
+template <class Test>
+double meanLuma(const Canvas& t, Test counts) {
+    double sum = 0;
+    int n = 0;
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 0; x < 32; ++x) {
+            if (!t.painted(x, y) || !counts(luma(t.colour(x, y)))) continue;
+            sum += luma(t.colour(x, y));
+            ++n;
+        }
+    }
+    return n > 0 ? sum / n : 0;
+}
+
+TEST(Legibility, BodiesStandOutFromEveryTerrain) {
+    std::vector<int> bodies(std::begin(encounters), std::end(encounters));
+    bodies.insert(bodies.end(), std::begin(items), std::end(items));
+    for (const int ground : terrains) {
+        const double below = meanLuma(tile(ground), [](double) { return true; });
+        EXPECT_LT(below, 50) << ground;
+        for (const int number : bodies) {
+            if (number == 50 || number == 100) continue;  // darkness and pebbles are meant to be dark
+            const double body = meanLuma(tile(number), [](double v) { return v > 30; });
+            EXPECT_GE(std::fabs(body - below), 45) << number << " on " << ground;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace gloomdeck::art
