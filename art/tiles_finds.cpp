@@ -95,14 +95,16 @@ Canvas lockedChest() {
     return t.stamp(14, 18, {".##.", "####", "####", ".##.", ".##.", "####"}).outline();
 }
 
+// Two cherries well apart, lighter than any bomb.
 Canvas fruit() {
     Canvas t;
-    t.part(join({capsule(10, 18, 17, 6, .9), capsule(22, 20, 17, 6, .9), capsule(17, 6, 19, 2.5, 1.1)}),
+    t.part(join({capsule(8.6, 19, 18, 5, .9), capsule(22.6, 20, 18, 5, .9), capsule(18, 5, 19.6, 2, 1.1)}),
            ramp::wood, flat(4));
-    t.part(poly({18, 7, 22, 2, 29.5, 3, 27, 8.6, 22, 9.4}), ramp::acid, bevel(3, 2.4, 2.4, .2));
-    t.part(circle(22, 23, 7.4), ramp::fire, dome(2.7, 3, 7, .4));
-    t.part(circle(9.5, 21, 7.6), ramp::fire, dome(3.0, 3, 7, .4));
-    t.stamp(5, 17, {".ww", "ww", "w"}).stamp(19, 18, {".w", "w"}).stamp(22, 5, {"..G", ".G", "G"});
+    t.part(poly({18.6, 6.4, 22, 1.6, 30, 2.4, 28, 8.2, 22.6, 9.2}), ramp::acid, bevel(3, 2.4, 2.4, .2));
+    t.part(poly({17.4, 6.2, 13, 2, 6, 3.6, 8, 8.6, 13, 8.8}), ramp::acid, bevel(3.4, 2.4, 2.4, .2));
+    t.part(circle(23.6, 23.8, 6.6), ramp::fire, dome(3.0, 3, 6.4, .4));
+    t.part(circle(8.4, 22.2, 6.8), ramp::fire, dome(3.3, 3, 6.6, .4));
+    t.stamp(4, 18, {".ww", "www", "ww"}).stamp(20, 20, {".ww", "ww"}).stamp(23, 4, {"..G", ".G", "G"});
     return t.outline();
 }
 

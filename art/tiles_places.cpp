@@ -48,22 +48,25 @@ Canvas doubleDoor() {
     return t.outline();
 }
 
-// Iron pyramids out of a plank pit: every spike is a lit and a dark face that meet in one edge, slope 1 in 3.
+// An iron pyramid: a lit and a dark face that meet in one edge; the uppermost `blood` rows are red.
+void spike(Canvas& t, double x, double tip, double foot, double blood) {
+    const Field pyramid = poly({x, tip - 1, x + 4.6, foot, x, foot + 1.2, x - 4.6, foot});
+    t.part(pyramid, ramp::steel, flat(4.2, 0, add({split(x, 1.2, -2), slope(0, -.05, 0, 20)})));
+    const Field point = meet({pyramid, box(x - 5, 0, x + 5, tip + blood)});
+    if (blood > 0) t.part(point, ramp::fire, flat(2.6, 0, split(x, .6, -.6)).merged());
+}
+
+// Three spikes behind two out of a plank pit; evenly spaced, or they look like crystals.
 Canvas trap() {
-    struct Spike {
-        double x, tip, foot;
-    };
     Canvas t;
-    t.part(box(1, 19, 31, 31, 1.5), ramp::wood, bevel(3.9, 2, 2, .2, columns(5, 1, -1.6)));
-    t.part(box(3, 21, 29, 27.6, 1), ramp::ink, flat(0).within(0));
-    for (const auto& [x, tip, foot] :
-         {Spike{9.5, 2.4, 23}, {22.5, 2.4, 23}, {5.5, 15, 27}, {26.5, 15, 27}, {16, 8, 28}}) {
-        const double half = (foot - tip) / 3;
-        t.part(poly({x, tip - 1, x + half, foot, x, foot + 1.6, x - half, foot}), ramp::steel,
-               flat(4.4, 0, add({split(x, 1.2, -2.4), slope(0, -.05, 0, 20)})));
-    }
-    t.stamp(9, 2, {"r", "r", "rR", "rR", ".R"}).stamp(15, 7, {"rR", "rR", "rR", "rRe", "rRe", "r.e"});
-    return t.stamp(22, 2, {"r", "r", ".R"}).outline();
+    t.part(box(1, 18, 31, 31, 1.5), ramp::wood, bevel(3.9, 2, 2, .2, columns(5, 1, -1.6)));
+    t.part(box(3, 20, 29, 28, 1), ramp::ink, flat(0).within(0));
+    spike(t, 6, 7, 23, 4);
+    spike(t, 16, 7, 23, 0);
+    spike(t, 26, 7, 23, 2);
+    spike(t, 11, 15, 28.6, 4);
+    spike(t, 21, 15, 28.6, 0);
+    return t.outline();
 }
 
 Canvas cave() {

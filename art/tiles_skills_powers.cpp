@@ -20,15 +20,15 @@ Canvas lightningBoost() { return boosted(boltBody); }
 Canvas sunBoost() { return boosted(sunBody); }
 Canvas toughness() { return boosted(heartBody); }
 
-// Padlock, shackle swung open, a long steel pick in the keyhole.
+// Padlock, shackle swung open, a steel pick with a wooden handle in the keyhole.
 Canvas lockpicking() {
     Canvas t;
-    t.part(cut(arch(13, 2, 6.6, 14), {arch(13, 5.2, 3.4, 14), box(16, 9, 24, 15)}), ramp::steel,
+    t.part(cut(arch(11.6, 2, 6.2, 14), {arch(11.6, 5.2, 3, 14), box(14, 9, 24, 15)}), ramp::steel,
            dome(4.2, 2.4, 2, .2));
-    t.part(box(3.5, 12.5, 22.5, 29.5, 2.4), ramp::gold, bevel(3.9, 2.6, 3, .3));
-    t.stamp(10, 17, {".####.", "######", "######", ".####.", "..##..", "..##..", ".####."});
-    t.part(join({capsule(13.6, 19.4, 26, 13.6, 1.1), capsule(26, 13.6, 29.6, 8, 1.4)}), ramp::steel,
-           dome(5, 2, 1.2, .1));
+    t.part(box(2, 12.5, 21, 29.5, 2.4), ramp::gold, bevel(3.9, 2.6, 3, .3));
+    t.stamp(8, 17, {".####.", "######", "######", ".####.", "..##..", "..##..", ".####."});
+    t.part(capsule(12, 19.4, 22.5, 13.4, 1.5), ramp::steel, dome(5, 2, 1.4, .1));
+    t.part(capsule(23.6, 12.6, 28.4, 6, 2.2, 2.5), ramp::wood, dome(4.4, 2.4, 2.4, .2));
     return t.outline();
 }
 
@@ -74,20 +74,20 @@ Canvas stasis() {
     return t.stamp(15, 12, {"yy", "yy", "zz", "zz", "yy"}).stamp(10, 5, {"C", ".C", "..C"}).outline();
 }
 
-// Buckler and a bolt that glances off it: comes from the upper left, leaves to the lower left.
+// An arrow comes dull from the upper left, strikes the shield and leaves bright and larger to the lower left.
 Canvas deflection() {
+    const auto rim = [](double k) {
+        return poly({21, 1 + k, 31 - k, 4.2 + k * .6, 30.4 - k, 13, 27.4 - k * .9, 20 - k * .4,  //
+                     20.8, 26.4 - k * 1.4, 13.6 + k * .9, 20 - k * .4, 10.8 + k, 13, 10.4 + k, 4.2 + k * .6});
+    };
+    const Field leaving =
+        join({capsule(14, 11, 8.4, 17.8, 2.2, 2.0), poly({3.2, 13.2, 13.2, 21.4, 1.2, 25.2})});
     Canvas t;
-    t.part(circle(20, 13.4, 11), ramp::steel, bevel(3.9, 2.8, 3, .25));
-    t.part(circle(20, 13.4, 7.8), ramp::cyan, dome(3.2, 2.4, 8));
-    t.part(circle(20, 13.4, 3), ramp::gold, dome(4.2, 3, 3, .2));
-    for (int k = 0; k < 8; ++k) {
-        const Point rivet = polar(20, 13.4, 9.4, k / 8.0 + .0625);
-        t.dots(ramp::steel[6], {{static_cast<int>(rivet.x), static_cast<int>(rivet.y)}});
-    }
-    t.part(capsule(2.4, 3.4, 9, 12, 1.5), ramp::fire, flat(4, 0));
-    t.part(capsule(9, 12, 6, 17, 1.5), ramp::fire, flat(4, 0).merged());
-    t.part(poly({1.6, 24.6, 1.6, 15.4, 9.6, 20}), ramp::fire, bevel(4.2, 2, 2, .1).merged());
-    return t.outline().stamp(8, 9, {"..w", "h.h.h", ".www", "wwwww", ".www", "h.h.h", "..w"});
+    t.part(rim(0), ramp::steel, bevel(3.9, 2.8, 2.2, .25));
+    t.part(rim(2.8), ramp::cyan, bevel(2.8, 2.2, 4, .3, split(20.8, .5, -.5)));
+    t.part(capsule(2.4, 2.4, 14, 11, 1.0, 2.2), ramp::fire, flat(3, .2, slope(.07, 0, 8, 0)));
+    t.part(leaving, ramp::fire, bevel(4.6, 2.0, 2, .1).merged());
+    return t.outline().stamp(12, 7, {"..w", "w.w.w", ".www", "wwwww", ".www", "w.w.w", "..w"});
 }
 
 }  // namespace
