@@ -5,12 +5,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "art/bitmap.h"
 #include "art/icon.h"
+#include "art/picture_files.h"
 #include "art/picture_hash.h"
 #include "art/png_file.h"
 #include "art/sheets.h"
-#include "art/svg.h"
 #include "art/title.h"
 
 namespace gloomdeck::art {

@@ -40,16 +40,11 @@ Look Look::within(int lo, int hi) const {
 }
 
 Look flat(double base, double dither, Field texture) {
-    return {.form = Form::flat, .base = base, .dither = dither, .texture = std::move(texture)};
+    return {Form::flat, base, 0, 4, dither, std::move(texture)};
 }
 
 Look bevel(double base, double gain, double width, double dither, Field texture) {
-    return {.form = Form::bevel,
-            .base = base,
-            .gain = gain,
-            .width = width,
-            .dither = dither,
-            .texture = std::move(texture)};
+    return {Form::bevel, base, gain, width, dither, std::move(texture)};
 }
 
 Look dome(double base, double gain, double width, double dither, Field texture) {

@@ -50,11 +50,23 @@ Canvas plain(int size) {
 
 Canvas byHand() {
     Canvas t(16, 16);
-    t.stamp(
-        0, 1,
-        {".y.....Yy.....z.", ".Yy...yYyz...zz.", ".YYy.yYYyyz.zzU.", ".YYYyyYYyyzzzzU.", ".yyyryyrryyrzzU.",
-         ".lllllllldddbbb.", ".lwwlllllldddbb.", ".l####ldl####bb.", ".l#rr#ddd#rr#bm.", ".dl##dd#dd##dbm.",
-         "..ddddd##ddbbm..", "...dddddddbbm...", "...l#d#l#d#bm...", "...l#d#l#d#bm..."});
+    // clang-format off
+    t.stamp(0, 1,
+            {".y.....Yy.....z.",
+             ".Yy...yYyz...zz.",
+             ".YYy.yYYyyz.zzU.",
+             ".YYYyyYYyyzzzzU.",
+             ".yyyryyrryyrzzU.",
+             ".lllllllldddbbb.",
+             ".lwwlllllldddbb.",
+             ".l####ldl####bb.",
+             ".l#rr#ddd#rr#bm.",
+             ".dl##dd#dd##dbm.",
+             "..ddddd##ddbbm..",
+             "...dddddddbbm...",
+             "...l#d#l#d#bm...",
+             "...l#d#l#d#bm..."});
+    // clang-format on
     return t.outline(1, false);
 }
 

@@ -2,7 +2,6 @@
 #include "art/sheets.h"
 
 #include "art/eyesight.h"
-#include "art/icon.h"
 #include "art/painter.h"
 #include "art/tiles.h"
 #include "art/title.h"
@@ -115,16 +114,6 @@ Canvas boardViews() {
                     2);
 }
 
-Canvas allIcons() {
-    Canvas t = ground(600, 264, slateGround);
-    int x = 4;
-    for (const int n : iconSizes) {
-        t.lay(paintIcon(n), x, 4);
-        x += n + 6;
-    }
-    return t;
-}
-
 }  // namespace
 
 std::vector<Sheet> contactSheets() {
@@ -135,8 +124,7 @@ std::vector<Sheet> contactSheets() {
             {"icons_on_interface", onEveryGround(iconsOnGrounds, interfaceGrounds())},
             {"board_1x", fullBoard()},
             {"board_views_2x", boardViews()},
-            {"title", paintTitle()},
-            {"icons", allIcons()}};
+            {"title", paintTitle()}};
 }
 
 }  // namespace gloomdeck::art

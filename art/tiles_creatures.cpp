@@ -173,12 +173,10 @@ Canvas demon() {
 // The beam starts at the middle of the cell: the iris stays there.
 Canvas hypnoEye() {
     Canvas t;
-    for (const auto& [x0, y0, x1, y1] : {std::array<double, 4>{6, 19, 3, 28},
-                                         {26, 19, 29, 28},
-                                         {11, 23, 10, 30},
-                                         {21, 23, 22, 30},
-                                         {16, 24, 16, 31}}) {
-        t.part(capsule(x0, y0, x1, y1, 1.6, .8), ramp::fire, dome(2.6, 2, 1.5));
+    for (const Field& lash :
+         {capsule(6, 19, 3, 28, 1.6, .8), capsule(26, 19, 29, 28, 1.6, .8), capsule(11, 23, 10, 30, 1.6, .8),
+          capsule(21, 23, 22, 30, 1.6, .8), capsule(16, 24, 16, 31, 1.6, .8)}) {
+        t.part(lash, ramp::fire, dome(2.6, 2, 1.5));
     }
     t.part(meet({circle(16, 28, 21.4), circle(16, 1.5, 21.8), box(1, 0, 31, 32)}), ramp::fire,
            dome(2.4, 2.2, 5));

@@ -43,6 +43,12 @@ void heartBody(Canvas& t) {
 
 namespace {
 
+Canvas outlined(void (*body)(Canvas&)) {
+    Canvas t;
+    body(t);
+    return t.outline();
+}
+
 Canvas key() {
     Canvas t;
     t.part(join({capsule(17, 15, 5, 27, 1.8), capsule(8.4, 22.4, 12, 26, 1.4),
@@ -67,22 +73,10 @@ Canvas torch() {
     return t.part(ellipse(16, 11.4, 2.8, 2.8), ramp::gold, flat(6).merged()).outline();
 }
 
-Canvas shield() {
-    Canvas t;
-    shieldBody(t);
-    return t.outline();
-}
-
 Canvas lightningBolt() {
     Canvas t;
     boltBody(t);
     return t.stamp(3, 6, {".c", "cCc", ".c"}).stamp(25, 21, {".c", "cCc", ".c"}).outline();
-}
-
-Canvas sun() {
-    Canvas t;
-    sunBody(t);
-    return t.outline();
 }
 
 Canvas bomb() {
@@ -114,11 +108,9 @@ Canvas hand() {
     return t.stamp(19, 20, {"f", "f", ".f"}).outline();
 }
 
-Canvas heart() {
-    Canvas t;
-    heartBody(t);
-    return t.outline();
-}
+Canvas shield() { return outlined(shieldBody); }
+Canvas sun() { return outlined(sunBody); }
+Canvas heart() { return outlined(heartBody); }
 
 void trainingBadge(Canvas& t) {
     t.part(box(17.4, 17.4, 31, 31, 2), ramp::violet, bevel(2.9, 1.6, 1.6, 0));

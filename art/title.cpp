@@ -67,6 +67,20 @@ void torchFire(Canvas& p, int cx) {
     }
 }
 
+void ermine(Canvas& p) {
+    const Field fur = add({ellipse(titleMiddle, 300, 104, 29), noise(12, 5, 3)});
+    const auto depth = [=](double x, double y) { return clamp(-fur(x, y), 0, 26) * .9; };
+    p.fill(grow(fur, 2), inkColour);
+    p.part(fur, ramp::bone,
+           relief(3.9, 3.0, add({noise(5, 6, 6), noise(6, 3, 2), depth}), .8,
+                  slope(-.004, -.012, titleMiddle, 300)));
+    for (int k = -4; k <= 4; ++k) {
+        const double x = titleMiddle + k * 22, y = 313 - k * k * 1.5;
+        p.part(join({ellipse(x, y, 3.2, 7), capsule(x, y + 2, x + k * .6, y + 10, 2, .7)}), ramp::ink,
+               flat(3, 0).merged());
+    }
+}
+
 }  // namespace
 
 Field mirrored(const std::vector<double>& half) {
@@ -97,24 +111,6 @@ void titleTorches(Canvas& p) {
         torchFire(p, cx);
     }
 }
-
-namespace {
-
-void ermine(Canvas& p) {
-    const Field fur = add({ellipse(titleMiddle, 300, 104, 29), noise(12, 5, 3)});
-    const auto depth = [=](double x, double y) { return clamp(-fur(x, y), 0, 26) * .9; };
-    p.fill(grow(fur, 2), inkColour);
-    p.part(fur, ramp::bone,
-           relief(3.9, 3.0, add({noise(5, 6, 6), noise(6, 3, 2), depth}), .8,
-                  slope(-.004, -.012, titleMiddle, 300)));
-    for (int k = -4; k <= 4; ++k) {
-        const double x = titleMiddle + k * 22, y = 313 - k * k * 1.5;
-        p.part(join({ellipse(x, y, 3.2, 7), capsule(x, y + 2, x + k * .6, y + 10, 2, .7)}), ramp::ink,
-               flat(3, 0).merged());
-    }
-}
-
-}  // namespace
 
 void titleRobe(Canvas& p) {
     const Field cloak = mirrored({0, 276, 58, 296, 114, 316, 154, 372, 168, 489});

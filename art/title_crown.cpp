@@ -49,11 +49,12 @@ void gems(Canvas& p) {
         double x, y, r;
         const Ramp& ramp;
     };
-    for (const auto& [x, y, r, ramp] : {Gem{0, 141, 8.4, ramp::fire},
-                                        {-32, 138.4, 6, ramp::cyan},
-                                        {32, 138.4, 6, ramp::cyan},
-                                        {-59, 131.6, 5, ramp::acid},
-                                        {59, 131.6, 5, ramp::acid}}) {
+    static constexpr Gem row[] = {{0, 141, 8.4, ramp::fire},
+                                  {-32, 138.4, 6, ramp::cyan},
+                                  {32, 138.4, 6, ramp::cyan},
+                                  {-59, 131.6, 5, ramp::acid},
+                                  {59, 131.6, 5, ramp::acid}};
+    for (const auto& [x, y, r, ramp] : row) {
         p.part(circle(middle + x, y, r + 2.2), ramp::gold, bevel(3.4, 3, 2.4, .3));
         p.part(circle(middle + x, y, r), ramp, dome(3.1, 3.4, r, .4));
         p.fill(circle(middle + x - r * .36, y - r * .36, r * .2), white);

@@ -5,10 +5,9 @@
 #include <map>
 #include <sstream>
 
-#include "art/bitmap.h"
 #include "art/icon.h"
+#include "art/picture_files.h"
 #include "art/picture_hash.h"
-#include "art/svg.h"
 #include "tests/art/tiles_under_test.h"
 
 namespace gloomdeck::art {

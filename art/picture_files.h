@@ -1,4 +1,4 @@
-// 24-bit bitmaps and the strips of tiles that the game loads.
+// Pictures as files: 24-bit bitmaps, the strips of tiles that the game loads, and SVG.
 #pragma once
 
 #include <string>
@@ -12,5 +12,8 @@ std::string bitmapFile(const Canvas& picture);
 
 // Tiles first .. last side by side; unused numbers stay unpainted.
 Canvas tileStrip(int first, int last);
+
+// One rectangle per run of equal pixels in a row.
+std::string svgFile(const Canvas& picture);
 
 }  // namespace gloomdeck::art
