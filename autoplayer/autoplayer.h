@@ -1,0 +1,14 @@
+// The autoplayer: plays the hero's moves within what the preferences allow.
+#pragma once
+
+namespace gloomdeck {
+
+/// Plays one move after another, each followed by the board's turn, until it finds none or the player
+/// interrupts it. With its five switches off it returns at once.
+void RunAutoplayer();
+
+/// Reads one key and the pointer: true for Space, Escape, Enter, a held left button or a close request, which
+/// stays to be acted on. Any other key is consumed.
+bool CancelRequested();
+
+}  // namespace gloomdeck

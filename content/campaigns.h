@@ -1,0 +1,32 @@
+// The three campaigns: scenarios played one after the other by the same hero.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace gloomdeck {
+
+inline constexpr int mostStages = 8;
+
+struct Campaign {
+    std::string_view name;
+    std::int32_t difficulty;                    // 1 to 5
+    std::int32_t scenarioCount;                 // 1 to 8 stages
+    std::array<std::int32_t, mostStages> stages;  // a scenario, or below -19 a random one of a difficulty
+    std::int32_t pictureTile;
+};
+
+inline constexpr int campaignCount = 3;
+extern const std::array<Campaign, campaignCount> CampaignTable;
+
+/// The row of an index; one out of range has the first row.
+const Campaign& campaignRow(int index);
+
+/// The entry of a stage; a stage out of range has the first.
+int stageEntry(const Campaign& campaign, int stage);
+
+/// The difficulty that a stage entry below -19 asks for: -20 to -24 are 1 to 5, anything else 1.
+int difficultyWanted(int entry);
+
+}  // namespace gloomdeck

@@ -1,0 +1,7 @@
+#include "rules/game_state.h"
+
+namespace gloomdeck {
+
+GameState game{};
+
+}  // namespace gloomdeck

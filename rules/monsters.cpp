@@ -1,0 +1,107 @@
+#include "rules/monsters.h"
+
+#include <utility>
+#include <optional>
+
+#include "platform/geometry.h"
+#include "rules/board.h"
+#include "rules/catalogue.h"
+#include "rules/cell_view.h"
+#include "rules/dice.h"
+#include "shell/board_view.h"
+#include "shell/tiles.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr int randomPicks = 6;
+constexpr int boardCells = columnCount * rowCount;
+constexpr int spreadingPause = 200;
+
+// Board places: x is the column, y the row.
+using Cell = Point;
+
+bool ghostMayGo(Cell to) {
+    return InBounds(to.x, to.y) && !IsPastEnd(to.x, to.y) && encounterType(cell(to.x, to.y)).ghostMayEnter;
+}
+
+bool filthMayGo(Cell to) {
+    return InBounds(to.x, to.y) && !IsPastEnd(to.x, to.y) && encounterType(cell(to.x, to.y)).filthMaySpread;
+}
+
+void moveInto(Cell from, Cell to, enc::Code code) {
+    cell(from.x, from.y) = enc::Empty;
+    cell(to.x, to.y) = code;
+    if (to.x != from.x) drawColumn(to.x);
+}
+
+Cell nextCell(Cell c) {
+    if (c.x + 1 < columnCount) return {c.x + 1, c.y};
+    return {0, (c.y + 1) % rowCount};
+}
+
+Cell randomCell() {
+    const int col = Roll(columnCount) - 1;
+    const int row = Roll(rowCount) - 1;
+    return {col, row};
+}
+
+std::optional<Cell> demonTarget() {
+    Cell c;
+    for (int pick = 0; pick < randomPicks; ++pick) {
+        c = randomCell();
+        if (ghostMayGo(c)) return c;
+    }
+    for (int looked = 0; looked < boardCells; ++looked, c = nextCell(c))
+        if (ghostMayGo(c)) return c;
+    return {};
+}
+
+void teleport(Cell from, Cell to) {
+    if (!IsHiddenByEye(from.x, from.y)) vanishWipe(from.x, from.y);
+    cell(from.x, from.y) = enc::Empty;
+    redrawCell(from.x, from.y);
+    if (!IsHiddenByEye(to.x, to.y)) vanishWipe(to.x, to.y);
+    cell(to.x, to.y) = enc::Demon;
+    redrawCell(to.x, to.y);
+}
+
+}  // namespace
+
+bool ghostFlees(int col, int row) {
+    const Cell here{col, row};
+    Cell first{col - 1, row};
+    Cell second{col + 1, row};
+    if (Roll(100) <= 50) std::swap(first, second);
+    for (const Cell to : {Cell{col, row - 1}, first, second, Cell{col, row + 1}}) {
+        if (!ghostMayGo(to)) continue;
+        if (isActive(stasis)) return false;
+        moveInto(here, to, enc::Ghost);
+        return true;
+    }
+    return false;
+}
+
+bool filthSpreads(int col, int row) {
+    if (isActive(stasis)) return false;
+    bool spread = false;
+    for (const Cell to : {Cell{col, row - 1}, Cell{col - 1, row}, Cell{col + 1, row}, Cell{col, row + 1}}) {
+        if (!filthMayGo(to)) continue;
+        moveInto({col, row}, to, enc::OozingFilth);
+        spread = true;
+    }
+    if (!spread) return false;
+    redrawCell(col, row);
+    flashTile(tile::spreading, col, row, spreadingPause);
+    return true;
+}
+
+bool demonTeleports(int col, int row) {
+    if (isActive(stasis)) return false;
+    const std::optional<Cell> to = demonTarget();
+    if (to) teleport({col, row}, *to);
+    return to.has_value();
+}
+
+}  // namespace gloomdeck

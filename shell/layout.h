@@ -1,0 +1,49 @@
+// Every widget of every screen: its id, its place at the start, and which screen tests it on a press.
+#pragma once
+
+#include <span>
+
+#include "shell/button.h"
+
+namespace gloomdeck {
+
+/// Widget ids, as the click handler reports them.
+namespace id {
+inline constexpr int board = 1;
+inline constexpr int stats = 2;
+inline constexpr int list = 3;
+inline constexpr int tabs = 4;
+inline constexpr int done = 6;
+inline constexpr int selectionExit = 7;
+inline constexpr int newGame = 9;
+inline constexpr int exit = 10;
+inline constexpr int replay = 11;
+inline constexpr int help = 12;
+inline constexpr int helpMenu = 13;
+inline constexpr int next = 14;
+inline constexpr int prev = 15;
+inline constexpr int speedUp = 16;
+inline constexpr int speedDown = 17;
+inline constexpr int prefs = 19;
+inline constexpr int continueGame = 20;
+inline constexpr int training = 21;  // rows 0 to 8: 21 to 29
+inline constexpr int toggle = 30;    // rows 0 to 6: 30 to 36
+inline constexpr int count = 37;
+}  // namespace id
+
+inline constexpr int trainingRows = 9;
+inline constexpr int toggleRows = 7;
+
+/// The record of an id (1 to 36); ids that no widget has share one that is hidden.
+Button& widget(int widgetId);
+
+/// Initialises every record and gives it its place at the start.
+void layOutWidgets();
+
+/// The widgets that a press is tested on, in order; empty for a screen that is none.
+std::span<const int> pressOrder(int screenId);
+
+/// True for the widgets that are no plain button: grids, menus and the list.
+bool isCompound(int widgetId);
+
+}  // namespace gloomdeck

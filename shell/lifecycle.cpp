@@ -1,0 +1,37 @@
+#include "shell/lifecycle.h"
+
+#include "platform/input.h"
+#include "platform/question.h"
+#include "prefs/saved_data.h"
+#include "shell/mouse.h"
+#include "shell/tile_set.h"
+
+namespace gloomdeck {
+
+namespace {
+
+bool runIsSaved = false;
+
+}  // namespace
+
+int confirm(const std::string& question, int skip) {
+    dropPress();
+    const bool yes = skip == 1 || askYesNo(question, "confirm");
+    dropKeys();
+    return yes ? 1 : 0;
+}
+
+void shutDown() {
+    freeTiles();
+    if (!runIsSaved) SaveData();
+    runIsSaved = true;
+}
+
+void saveAfterLoss() {
+    if (!runIsSaved) saveSafePoint();
+    runIsSaved = true;
+}
+
+void resetLifecycle() { runIsSaved = false; }
+
+}  // namespace gloomdeck

@@ -1,0 +1,38 @@
+#include "shell/long_message.h"
+
+#include "platform/draw.h"
+#include "shell/board_view.h"
+#include "shell/pacing.h"
+#include "shell/palette.h"
+#include "shell/panels.h"
+#include "shell/places.h"
+#include "shell/screen_lock.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr int charactersPerLine = 26;
+constexpr int lineStep = 12;
+constexpr int promptCentre = (boardGrid.x + boardGrid.width()) / 2;
+constexpr int promptTop = 246;
+
+void drawStoryPanel(const std::string& text) {
+    const HeldScreen held;
+    const Rect board = boardGrid.area();
+    const Rect& frame = place::boardFrame;
+    fillBox(board.x1, board.y1, board.x2, board.y2, colour::black);
+    drawBox(frame.x1, frame.y1, frame.x2, frame.y2, colour::brown);
+    drawWrappedText(text, board.x1 + 8, board.y1 + 8, charactersPerLine, lineStep);
+    centredText(" space or click to continue", promptCentre, promptTop);
+}
+
+}  // namespace
+
+void showLongMessage(const std::string& text) {
+    drawStoryPanel(text);
+    waitForAck(" ");
+    drawBoard();
+}
+
+}  // namespace gloomdeck

@@ -1,0 +1,43 @@
+#include "shell/menus.h"
+
+#include <array>
+
+#include "platform/draw.h"
+#include "platform/font.h"
+#include "platform/rounding.h"
+#include "shell/layout.h"
+#include "shell/palette.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr std::array<std::string_view, 2> tabNames{"Campaign", "Scenario"};
+
+void drawMenuItem(const Button& menu, int col, int row, std::string_view text, bool isSelected) {
+    const int x = menu.x + menu.cellWidth * col;
+    const int y = menu.y + menu.cellHeight * row;
+    const int right = x + menu.cellWidth;
+    const int bottom = y + menu.cellHeight;
+    fillBox(x, y, right, bottom, isSelected ? colour::edge : colour::face);
+    drawBox(x, y, right + 1, bottom + 1, colour::black);
+    drawBox(x, y, right, bottom, colour::edge);
+    const int length = static_cast<int>(text.size());
+    const int textX = roundedRatio(2 * x + menu.cellWidth - length * glyphSize, 2);
+    const int textY = roundedRatio(2 * y + menu.cellHeight - 6, 2);
+    drawText(textX, textY, text, isSelected ? colour::face : colour::edge);
+}
+
+}  // namespace
+
+void drawTabs(int selected) {
+    for (int i = 0; i < 2; ++i)
+        drawMenuItem(widget(id::tabs), i, 0, tabNames[static_cast<std::size_t>(i)], i == selected);
+}
+
+void drawHelpMenu(std::span<const std::string_view> items, int selected) {
+    for (int i = 0; i < static_cast<int>(items.size()); ++i)
+        drawMenuItem(widget(id::helpMenu), 0, i, items[static_cast<std::size_t>(i)], i == selected);
+}
+
+}  // namespace gloomdeck

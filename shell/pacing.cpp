@@ -1,0 +1,69 @@
+#include "shell/pacing.h"
+
+#include <array>
+
+#include "platform/clock.h"
+#include "platform/input.h"
+#include "platform/rounding.h"
+#include "prefs/prefs.h"
+#include "shell/messages.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr std::array<int, speedCount> delayFactors{30, 20, 10, 5, 3, 1, 0};  // tenths
+constexpr double longestTitle = 15.0;                                        // seconds
+constexpr double afterTitle = 0.001;
+
+void changeSpeed(int step, int announce, const char* changed, const char* atLimit) {
+    const int wanted = speedIndex() + step;
+    const bool moves = wanted >= 0 && wanted < speedCount;
+    if (moves) prefs.GameSpeed = wanted;
+    if (announce != 1) return;
+    ShowMessage(moves ? changed + std::string(SpeedName(wanted)) + "." : std::string(atLimit), 1);
+}
+
+bool leftIsHeld(const MouseState& mouse) { return mouse.status == 0 && (mouse.buttons & 1) != 0; }
+
+void waitForRelease() {
+    while (leftIsHeld(getMouse())) pausePolling(1);
+}
+
+bool acknowledges(const std::string& key, const std::string& wanted) {
+    if (key.empty()) return false;
+    return wanted.empty() || key == wanted || key == keycode::enter || key == keycode::escape ||
+           key == keycode::space;
+}
+
+// The wait itself; the answer tells whether a close request was read.
+bool waitNotingClose(const std::string& wanted) {
+    const double start = timer();
+    const double deadline = wanted.empty() ? start + longestTitle + afterTitle : noDeadline;
+    bool closing = false;
+    while (true) {
+        if (leftIsHeld(getMouse())) {
+            waitForRelease();
+            return closing;
+        }
+        const std::string key = readKey();
+        closing = closing || key == keycode::close;
+        if (acknowledges(key, wanted) || programIsEnding()) return closing;
+        pausePolling(1, deadline);
+        if (wanted.empty() && timer() - start > longestTitle) return closing;
+    }
+}
+
+}  // namespace
+
+void Delay(int n) { sleep(roundedRatio(std::int64_t{delayFactors[static_cast<std::size_t>(speedIndex())]} * n, 10)); }
+
+void speedUp(int announce) { changeSpeed(1, announce, "Game speed increased to ", "Game speed at maximum."); }
+
+void speedDown(int announce) { changeSpeed(-1, announce, "Game speed decreased to ", "Game speed at minimum."); }
+
+void waitForAck(const std::string& key) {
+    if (waitNotingClose(key)) giveBackClose(inputQueue());
+}
+
+}  // namespace gloomdeck

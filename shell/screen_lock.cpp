@@ -1,0 +1,19 @@
+#include "shell/screen_lock.h"
+
+#include "platform/frame.h"
+#include "shell/ui_state.h"
+
+namespace gloomdeck {
+
+void holdScreen() {
+    if (ui.lockDepth == 0) lockScreen();
+    ++ui.lockDepth;
+}
+
+void releaseScreen() {
+    if (--ui.lockDepth > 0) return;
+    waitForVerticalRetrace();
+    unlockScreen();
+}
+
+}  // namespace gloomdeck

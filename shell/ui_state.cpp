@@ -1,0 +1,9 @@
+#include "shell/ui_state.h"
+
+namespace gloomdeck {
+
+UiState ui;
+std::int32_t pressedWidget = notPressed;
+std::int32_t clickedButton = -1;
+
+}  // namespace gloomdeck
