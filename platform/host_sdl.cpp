@@ -32,7 +32,7 @@ int endCode = 0;
 std::string lastTitle;
 void (*saveWhenLost)() = nullptr;
 
-void noteEndSignal(int) { endSignalled = 1; }
+void noteEndSignal(int /*number*/) { endSignalled = 1; }
 
 void handleSignal(int number) {
     struct sigaction before {};
@@ -121,8 +121,8 @@ void sleep(int milliseconds) {
     }
 }
 
-void waitForInput(double limit) {
-    const double wait = std::clamp(limit, 0.0, longestWait);
+void waitForInput(double seconds) {
+    const double wait = std::clamp(seconds, 0.0, longestWait);
     if (!endSignalled && wait > 0) awaitWindowEvent(static_cast<int>(std::ceil(wait * 1000.0)));
 }
 

@@ -17,7 +17,7 @@ int heightOf(const Rect& r) { return r.y2 - r.y1 + 1; }
 struct Area {
     explicit Area(Extent extent)
         : size(extent), pixels(static_cast<std::size_t>(extent.width * extent.height), untouched) {}
-    Colour at(int x, int y) const { return pixels[static_cast<std::size_t>(y * size.width + x)]; }
+    Colour at(int x, int y) const { return pixels.at(static_cast<unsigned>(y * size.width + x)); }
     Extent size;
     std::vector<Colour> pixels;
 };
@@ -89,8 +89,8 @@ TEST(Scaling, ShrunkPicturesAverageEveryPixelOfTheFrame) {
                                      0xFF0000FF, 0xFF000000, 0xFF800000, 0xFF008000};
     Area area({2, 9});
     drawFitted(pixels.data(), {4, 2}, fitFrame({4, 2}, area.size), area.pixels.data(), area.size.width);
-    EXPECT_EQ(area.at(0, 4), 0xFF00007Fu);
-    EXPECT_EQ(area.at(1, 4), 0xFF404000u);
+    EXPECT_EQ(area.at(0, 4), 0xFF00007FU);
+    EXPECT_EQ(area.at(1, 4), 0xFF404000U);
     EXPECT_EQ(area.at(0, 3), untouched);
     EXPECT_EQ(area.at(1, 5), untouched);
 }
