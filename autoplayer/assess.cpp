@@ -305,7 +305,8 @@ int ExpectedDamage(int monsterRow) {
 int TrapState(int col, int row) {
     int blocked = 0;
     int hidden = 0;
-    for (const Point p : {Point{col - 1, row}, Point{col + 1, row}, Point{col, row - 1}, Point{col, row + 1}}) {
+    for (const Point p :
+         {Point{col - 1, row}, Point{col + 1, row}, Point{col, row - 1}, Point{col, row + 1}}) {
         const Neighbour neighbour = neighbourAt(p.x, p.y);
         if (neighbour == Neighbour::blocked) ++blocked;
         if (neighbour == Neighbour::hidden) ++hidden;

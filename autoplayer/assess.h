@@ -1,5 +1,5 @@
-// What the autoplayer thinks of the board: pure, from the records to values. Nothing here draws, rolls or keeps
-// anything.
+// What the autoplayer thinks of the board: pure, from the records to values. Nothing here draws, rolls or
+// keeps anything.
 #pragma once
 
 #include <array>

@@ -42,7 +42,8 @@ void startCampaignStage() {
     if (prefs.restartSwitch || prefs.skipText) return;
     drawBackground();
     const std::int64_t number = std::int64_t{game.campaignStage} + 1;
-    showLongMessage(std::string(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99)))));
+    showLongMessage(
+        std::string(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99)))));
 }
 
 void nextCampaignStage() {

@@ -6,7 +6,14 @@ namespace gloomdeck {
 
 namespace {
 
-enum ScenarioIndex : std::int32_t { treasury = 0, easy = 1, ruins = 2, dungeon = 3, thievesDen = 5, banditCamp = 6 };
+enum ScenarioIndex : std::int32_t {
+    treasury = 0,
+    easy = 1,
+    ruins = 2,
+    dungeon = 3,
+    thievesDen = 5,
+    banditCamp = 6
+};
 
 }  // namespace
 

@@ -11,8 +11,8 @@ inline constexpr int mostStages = 8;
 
 struct Campaign {
     std::string_view name;
-    std::int32_t difficulty;                    // 1 to 5
-    std::int32_t scenarioCount;                 // 1 to 8 stages
+    std::int32_t difficulty;                      // 1 to 5
+    std::int32_t scenarioCount;                   // 1 to 8 stages
     std::array<std::int32_t, mostStages> stages;  // a scenario, or below -19 a random one of a difficulty
     std::int32_t pictureTile;
 };

@@ -97,7 +97,8 @@ void openPlayScreen() {
     drawStatsArea();
     drawMessages();
     if (AllColumnsFinished()) showScenarioEnd();
-    for (const int button : {id::newGame, id::replay, id::prefs, id::help, id::exit}) drawButton(widget(button));
+    for (const int button : {id::newGame, id::replay, id::prefs, id::help, id::exit})
+        drawButton(widget(button));
 }
 
 }  // namespace gloomdeck

@@ -22,8 +22,8 @@ extern const std::array<Location, locationCount> LocationTable;
 /// The row of an index; one out of range has the first row.
 const Location& locationRow(int index);
 
-/// The whole percentage of a code (0 to 23) in a location's deck: its weight's share, rounded, ties to even. The
-/// percentages of a deck need not sum to 100.
+/// The whole percentage of a code (0 to 23) in a location's deck: its weight's share, rounded, ties to even.
+/// The percentages of a deck need not sum to 100.
 int dealPercentage(int location, int code);
 
 }  // namespace gloomdeck

@@ -10,7 +10,8 @@ namespace {
 
 enum LocationIndex : std::int32_t { cellar, ruins, portal, dungeon, treasury, hideout, easy, alley, crags };
 
-constexpr std::array<std::string_view, 5> difficultyNames{"Easy", "Average", "Hard", "Very Hard", "Impossible!"};
+constexpr std::array<std::string_view, 5> difficultyNames{"Easy", "Average", "Hard", "Very Hard",
+                                                          "Impossible!"};
 
 }  // namespace
 
@@ -47,7 +48,8 @@ const Scenario& scenarioRow(int index) {
 }
 
 int scenarioAtPosition(int position) {
-    return scenarioListOrder[static_cast<std::size_t>(position >= 0 && position < scenarioTableSize ? position : 0)];
+    return scenarioListOrder[static_cast<std::size_t>(position >= 0 && position < scenarioTableSize ? position
+                                                                                                    : 0)];
 }
 
 std::string_view difficultyName(int difficulty) {

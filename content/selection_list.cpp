@@ -29,7 +29,9 @@ void drawEntry(const Button& list, int row, std::string_view name) {
 
 }  // namespace
 
-int selectionListLength(int tab) { return tab == selection_tab::campaigns ? campaignCount : scenarioTableSize; }
+int selectionListLength(int tab) {
+    return tab == selection_tab::campaigns ? campaignCount : scenarioTableSize;
+}
 
 void drawSelectionList() {
     const int tab = widget(id::tabs).selected;

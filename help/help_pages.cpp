@@ -27,7 +27,8 @@ void drawKeyLines(std::span<const HelpLine> lines) {
     for (const HelpLine& line : lines) {
         drawText(left, line.y, line.text);
         const auto colon = line.text.find(':');
-        if (colon != std::string_view::npos) drawText(left, line.y, line.text.substr(0, colon), colour::yellow);
+        if (colon != std::string_view::npos)
+            drawText(left, line.y, line.text.substr(0, colon), colour::yellow);
     }
 }
 

@@ -51,8 +51,10 @@ inline constexpr std::array<HelpLine, 13> keyboardHelp{{{28, "T: Trading screen"
                                                         {208, " screens (help, new game)"}}};
 
 inline constexpr std::string_view autoplayerHelp =
-    "The autoplayer is a feature which can be used to assist in playing the game. Select what level you want it "
-    "to play at, from the prefs screen.\\\\\"Good\" means that it will take items that have are beneficial if "
+    "The autoplayer is a feature which can be used to assist in playing the game. Select what level you want "
+    "it "
+    "to play at, from the prefs screen.\\\\\"Good\" means that it will take items that have are beneficial "
+    "if "
     "there is nothing that moves around or does stuff on the board.";
 
 }  // namespace gloomdeck

@@ -73,7 +73,8 @@ void locatePalette(BitmapHeader& h, const Bytes& file) {
 
 bool pixelsAreWhole(const BitmapHeader& h, const Bytes& file) {
     const std::size_t needed = rowSize(h) * static_cast<std::size_t>(h.height);
-    return h.pixelOffset >= headersSize && h.pixelOffset <= file.size() && needed <= file.size() - h.pixelOffset;
+    return h.pixelOffset >= headersSize && h.pixelOffset <= file.size() &&
+           needed <= file.size() - h.pixelOffset;
 }
 
 std::optional<BitmapHeader> headerOf(const Bytes& file) {
@@ -83,7 +84,8 @@ std::optional<BitmapHeader> headerOf(const Bytes& file) {
     const auto height = static_cast<std::int32_t>(little32(file, 22));
     const bool plain = little16(file, 26) == 1 && little32(file, 30) == 0;
     if (!plain || infoSize < smallestInfoHeader || infoSize > file.size() - fileHeaderSize) return {};
-    if (width < 1 || width > largestSide || height == 0 || height < -largestSide || height > largestSide) return {};
+    if (width < 1 || width > largestSide || height == 0 || height < -largestSide || height > largestSide)
+        return {};
     BitmapHeader h{.pixelOffset = little32(file, 10),
                    .paletteOffset = fileHeaderSize + infoSize,
                    .width = width,
@@ -96,8 +98,8 @@ std::optional<BitmapHeader> headerOf(const Bytes& file) {
 }
 
 Colour opaque(const std::uint8_t* blueGreenRed) {
-    return 0xFF000000 | static_cast<Colour>(blueGreenRed[2]) << 16 | static_cast<Colour>(blueGreenRed[1]) << 8 |
-           blueGreenRed[0];
+    return 0xFF000000 | static_cast<Colour>(blueGreenRed[2]) << 16 |
+           static_cast<Colour>(blueGreenRed[1]) << 8 | blueGreenRed[0];
 }
 
 Colour paletteColour(const BitmapHeader& h, const Bytes& file, std::size_t index) {

@@ -8,8 +8,8 @@
 namespace gloomdeck {
 
 /// Copies the pixels of an uncompressed bitmap file (1, 4, 8, 24 or 32 bits a pixel, rows in either order) to
-/// the target, top left on top left, opaque; what does not fit is cut off. The target is an image or screen().
-/// A file that is missing, damaged or of another kind changes nothing.
+/// the target, top left on top left, opaque; what does not fit is cut off. The target is an image or
+/// screen(). A file that is missing, damaged or of another kind changes nothing.
 void loadBitmap(const std::string& path, Image& target);
 
 }  // namespace gloomdeck

@@ -11,7 +11,7 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int longPause = 100;      // milliseconds; from here on a key ends a pause
+constexpr int longPause = 100;  // milliseconds; from here on a key ends a pause
 constexpr int pauseStep = 50;
 constexpr double alertFor = 0.25;   // seconds after input: a release or a return takes several passes
 constexpr double longestWait = 60;  // seconds

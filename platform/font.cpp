@@ -1,5 +1,5 @@
-// The glyphs as grids that can be read and edited: '#' is ink. Capitals stand on rows 0 to 6, small letters on
-// rows 2 to 6, descenders take row 7; stems are two pixels wide, horizontals one; column 7 stays empty.
+// The glyphs as grids that can be read and edited: '#' is ink. Capitals stand on rows 0 to 6, small letters
+// on rows 2 to 6, descenders take row 7; stems are two pixels wide, horizontals one; column 7 stays empty.
 #include "platform/font.h"
 
 #include <string_view>

@@ -32,7 +32,8 @@ void destroyImage(Image& image) { image = {}; }
 
 void getImage(const Image& source, int x1, int y1, int x2, int y2, Image& destination) {
     const Rect wanted = spanning(x1, y1, x2, y2);
-    const Rect fits{wanted.x1, wanted.y1, wanted.x1 + destination.width - 1, wanted.y1 + destination.height - 1};
+    const Rect fits{wanted.x1, wanted.y1, wanted.x1 + destination.width - 1,
+                    wanted.y1 + destination.height - 1};
     const Rect inSource{0, 0, source.width - 1, source.height - 1};
     const Rect part = intersection(intersection(wanted, fits), inSource);
     if (isEmpty(part)) return;
@@ -45,7 +46,8 @@ void putImage(int x, int y, const Image& image, PutMode mode) {
     const Rect part = intersection({x, y, x + image.width - 1, y + image.height - 1}, clipRect());
     if (isEmpty(part)) return;
     for (int row = part.y1; row <= part.y2; ++row)
-        putRow(pixelAt(screen(), part.x1, row), pixelAt(image, part.x1 - x, row - y), part.x2 - part.x1 + 1, mode);
+        putRow(pixelAt(screen(), part.x1, row), pixelAt(image, part.x1 - x, row - y), part.x2 - part.x1 + 1,
+               mode);
     frameChanged();
 }
 

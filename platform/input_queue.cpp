@@ -21,7 +21,9 @@ bool isKnownKey(std::string_view key) {
 
 bool isClose(const KeyPress& key) { return key.text == keycode::close; }
 
-bool closeWaits(const InputQueue& queue) { return std::any_of(queue.keys.begin(), queue.keys.end(), isClose); }
+bool closeWaits(const InputQueue& queue) {
+    return std::any_of(queue.keys.begin(), queue.keys.end(), isClose);
+}
 
 // Changes alternate; the first one that is still owed to a press seen by the game stays, then the last click.
 void thinPiledClicks(InputQueue& queue) {

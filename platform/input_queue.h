@@ -31,14 +31,14 @@ struct KeyPress {
 };
 
 struct InputQueue {
-    bool inside = false;        // the pointer is over the frame
-    int x = -1;                 // where it was seen last
+    bool inside = false;  // the pointer is over the frame
+    int x = -1;           // where it was seen last
     int y = -1;
-    bool pushedDown = false;    // the button as the host reported it last
-    bool handedDown = false;    // the button as a poll saw it last
-    bool paused = false;        // the game has been busy since the last poll
-    bool ending = false;        // the system wants the program to end
-    long received = 0;          // counts what came in; a wait compares it
+    bool pushedDown = false;  // the button as the host reported it last
+    bool handedDown = false;  // the button as a poll saw it last
+    bool paused = false;      // the game has been busy since the last poll
+    bool ending = false;      // the system wants the program to end
+    long received = 0;        // counts what came in; a wait compares it
     std::deque<ButtonChange> changes;
     std::deque<KeyPress> keys;
 };

@@ -45,7 +45,8 @@ int widthOf(const std::string& text) { return static_cast<int>(text.size()) * gl
 
 Rect panelFor(const std::string& text, const std::string& caption) {
     const int buttons = 2 * buttonWidth + buttonGap;
-    const int width = std::min(std::max({widthOf(text), widthOf(caption), buttons}) + 2 * margin, frameWidth - 4);
+    const int width =
+        std::min(std::max({widthOf(text), widthOf(caption), buttons}) + 2 * margin, frameWidth - 4);
     const int x = (frameWidth - width) / 2;
     const int y = (frameHeight - panelHeight) / 2;
     return {x, y, x + width - 1, y + panelHeight - 1};

@@ -21,9 +21,9 @@ inline constexpr int training = 6;
 struct Prefs {
     std::int32_t GameSpeed;  // 0 to 6
     std::int32_t currentScreen;
-    std::int32_t reserved;           // written as 0
-    std::array<char, 21> heroName;   // zero-terminated
-    std::uint8_t scenarioOver : 1;   // the board is cleared
+    std::int32_t reserved;          // written as 0
+    std::array<char, 21> heroName;  // zero-terminated
+    std::uint8_t scenarioOver : 1;  // the board is cleared
     std::uint8_t unusedFlags : 7;
     std::array<std::uint8_t, 2> padding;
     std::int32_t spare;
@@ -40,7 +40,8 @@ struct Prefs {
 };
 
 static_assert(sizeof(Prefs) == 52 && std::is_trivially_copyable_v<Prefs>);
-static_assert(offsetof(Prefs, heroName) == 12 && offsetof(Prefs, padding) == 34 && offsetof(Prefs, spare) == 36);
+static_assert(offsetof(Prefs, heroName) == 12 && offsetof(Prefs, padding) == 34 &&
+              offsetof(Prefs, spare) == 36);
 static_assert(offsetof(Prefs, scenarioChoice) == 40 && offsetof(Prefs, campaignChoice) == 44);
 
 extern Prefs prefs;

@@ -3,8 +3,8 @@
 
 namespace gloomdeck {
 
-/// 1 when both files were read, 0 when nothing was. A short file fills what it has; the rest is zero. No value
-/// is checked or changed.
+/// 1 when both files were read, 0 when nothing was. A short file fills what it has; the rest is zero. No
+/// value is checked or changed.
 int LoadSavedData();
 
 /// The preferences of a first start. The game record and the flags of the running game stay.

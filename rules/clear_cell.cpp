@@ -13,9 +13,10 @@ namespace {
 
 constexpr int revealPause = 30;
 
-constexpr std::array caveContents{enc::Skeleton,     enc::Skeleton,    enc::Ghost, enc::Ghost,       enc::Chest,
-                                  enc::Backpack,     enc::Scroll,      enc::Meat,  enc::Chest,       enc::Empty,
-                                  enc::SkeletonKing, enc::OozingFilth, enc::Demon, enc::LockedChest, enc::Gold};
+constexpr std::array caveContents{enc::Skeleton, enc::Skeleton,    enc::Ghost,        enc::Ghost,
+                                  enc::Chest,    enc::Backpack,    enc::Scroll,       enc::Meat,
+                                  enc::Chest,    enc::Empty,       enc::SkeletonKing, enc::OozingFilth,
+                                  enc::Demon,    enc::LockedChest, enc::Gold};
 
 // The answer is whether the cell counts as empty; a cave that held nothing does not.
 bool leaveRemains(int col, int row) {
@@ -36,7 +37,8 @@ bool leaveRemains(int col, int row) {
 
 bool ClearCell(int col, int row) {
     const bool isEmpty = leaveRemains(col, row);
-    if (!isEmpty && cell(col, row) != enc::TheEnd && !IsHiddenByEye(col, row)) revealWipe(col, row, revealPause);
+    if (!isEmpty && cell(col, row) != enc::TheEnd && !IsHiddenByEye(col, row))
+        revealWipe(col, row, revealPause);
     return isEmpty;
 }
 

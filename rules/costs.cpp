@@ -57,7 +57,8 @@ int toughened(int amount) {
     if (r > level(toughness)) return amount;
     const int stop = roundedRatio(std::int64_t{level(toughness)} - r + 10, 10);
     const int left = amount - stop;
-    ShowMessage(left < 1 ? "Toughness stops all loss." : "Toughness stops " + std::to_string(stop) + " points.", 1);
+    ShowMessage(
+        left < 1 ? "Toughness stops all loss." : "Toughness stops " + std::to_string(stop) + " points.", 1);
     return left;
 }
 
@@ -90,7 +91,8 @@ int UseTorches(int n) {
 int TakeDamage(int amount, int required, int threshold) {
     if (isActive(deflection)) amount = deflected(amount, required, threshold);
     if (amount < 1 && isActive(deflection)) return 1;
-    if (required && count(health) <= threshold) return refuse("Need health above " + std::to_string(threshold) + ".");
+    if (required && count(health) <= threshold)
+        return refuse("Need health above " + std::to_string(threshold) + ".");
     amount = toughened(amount);
     if (amount >= 1) AddItem(health, -amount);
     return 1;

@@ -1,5 +1,5 @@
-// Meeting a tile. Rules answer 1 (it took place and used a turn) or 0 (refused: nothing spent but what a Master
-// Thief took, the message bar says why). The caller runs BoardTurn after a 1.
+// Meeting a tile. Rules answer 1 (it took place and used a turn) or 0 (refused: nothing spent but what a
+// Master Thief took, the message bar says why). The caller runs BoardTurn after a 1.
 #pragma once
 
 namespace gloomdeck {

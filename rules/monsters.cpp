@@ -1,7 +1,7 @@
 #include "rules/monsters.h"
 
-#include <utility>
 #include <optional>
+#include <utility>
 
 #include "platform/geometry.h"
 #include "rules/board.h"

@@ -108,7 +108,8 @@ void boltStrikesCell(Bolt& bolt, int row) {
 void drawBoltThrough(Bolt& bolt, int row) {
     const int top = boardGrid.corner(bolt.col, row).y;
     const int x = boltX(bolt.col);
-    for (const int d : {0, -1, -2, 1, 2}) drawLine(bolt.x + d, top + tile::size - 1, x + d, top, colour::yellow);
+    for (const int d : {0, -1, -2, 1, 2})
+        drawLine(bolt.x + d, top + tile::size - 1, x + d, top, colour::yellow);
     bolt.x = x;
     Delay(boltStepPause);
 }
@@ -141,7 +142,8 @@ void blastColumn(int col, int centreCol, int centreRow) {
     const bool eye = hasEye(col);
     bool hit = false;
     for (int row = centreRow - 1; row <= centreRow + 1; ++row)
-        if (InBounds(col, row)) hit = blastCell(col, row, blastChance(col == centreCol, row == centreRow)) || hit;
+        if (InBounds(col, row))
+            hit = blastCell(col, row, blastChance(col == centreCol, row == centreRow)) || hit;
     if (hit && eye) drawColumn(col);
 }
 
@@ -169,7 +171,8 @@ void CastShield() {
 
 void CastLightning(int redrawFirst, int col) {
     if (redrawFirst == 1) drawColumn(col);
-    Bolt bolt{.col = col, .boost = level(lightningBoost), .eye = hasEye(col), .x = boltX(col), .scorched = {}};
+    Bolt bolt{
+        .col = col, .boost = level(lightningBoost), .eye = hasEye(col), .x = boltX(col), .scorched = {}};
     for (int row = bottomRow; row >= 0; --row) {
         boltStrikesCell(bolt, row);
         drawBoltThrough(bolt, row);

@@ -93,7 +93,8 @@ void DrawTradeRow(int offer) {
     showButton(plus, "");
     drawBand(plus.y, offer % 2 == 0, type.tile);
     drawText(textLeft, plus.y + 6, std::to_string(row.price) + " gold for " + std::to_string(row.amount));
-    drawText(textLeft, plus.y + 16, "  (" + std::string(type.name) + ": " + std::to_string(count(row.item)) + ")");
+    drawText(textLeft, plus.y + 16,
+             "  (" + std::string(type.name) + ": " + std::to_string(count(row.item)) + ")");
 }
 
 void DrawTrainingGold() {

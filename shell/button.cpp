@@ -23,7 +23,8 @@ void placeButton(Button& b, int x, int y) {
 
 Point captionPlace(const Button& b) {
     const int length = static_cast<int>(b.caption.size());
-    return {roundedRatio(2 * b.x + b.width - length * captionPitch, 2), roundedRatio(2 * b.y + b.height - 6, 2)};
+    return {roundedRatio(2 * b.x + b.width - length * captionPitch, 2),
+            roundedRatio(2 * b.y + b.height - 6, 2)};
 }
 
 void drawButton(const Button& b) {
@@ -41,8 +42,6 @@ void showButton(Button& b, const std::string& caption) {
     drawButton(b);
 }
 
-void eraseButton(const Button& b) {
-    fillBox(b.x, b.y, b.x + b.width + 1, b.y + b.height + 1, colour::panel);
-}
+void eraseButton(const Button& b) { fillBox(b.x, b.y, b.x + b.width + 1, b.y + b.height + 1, colour::panel); }
 
 }  // namespace gloomdeck

@@ -27,7 +27,9 @@ bool isInPressedCell(const Button& b, int px, int py) {
     return px >= x && px < x + b.cellWidth && py >= y && py < y + b.cellHeight;
 }
 
-Point cornerOf(const Button& b, int col, int row) { return {b.x + b.cellWidth * col, b.y + b.cellHeight * row}; }
+Point cornerOf(const Button& b, int col, int row) {
+    return {b.x + b.cellWidth * col, b.y + b.cellHeight * row};
+}
 
 void drawPressed(const Button& b, Point corner) {
     if (b.kind == WidgetKind::tileGrid) return putTile(tile::glow, corner, putBlended(pressAlpha));
@@ -39,7 +41,8 @@ void drawPressed(const Button& b, Point corner) {
 
 void restoreHoverCell(const Button& b) {
     if (b.gridId == grid::board)
-        putImage(cornerOf(b, b.hoverCol, b.hoverRow).x, cornerOf(b, b.hoverCol, b.hoverRow).y, cellBackup, putCopy);
+        putImage(cornerOf(b, b.hoverCol, b.hoverRow).x, cornerOf(b, b.hoverCol, b.hoverRow).y, cellBackup,
+                 putCopy);
     else
         drawStatsCell(b.hoverRow);
 }

@@ -76,7 +76,8 @@ void placeWidget(const Placement& p) {
 }
 
 void placeRows() {
-    for (int row = 0; row < trainingRows; ++row) placeWidget({id::training + row, 16, 48 + 35 * row, 32, 32, 32, 32, "+"});
+    for (int row = 0; row < trainingRows; ++row)
+        placeWidget({id::training + row, 16, 48 + 35 * row, 32, 32, 32, 32, "+"});
     for (int row = 0; row < toggleRows; ++row) {
         const int y = row == toggleRows - 1 ? 306 : 174 + 19 * row;
         placeWidget({id::toggle + row, 98, y, 52, 16, 52, 16, "on/off"});
@@ -103,7 +104,8 @@ void layOutWidgets() {
     placeRows();
     placeGrid(id::board, grid::board, boardGrid);
     placeGrid(id::stats, grid::stats, statsGrid);
-    for (const int bottom : {id::exit, id::help, id::prefs, id::replay, id::newGame}) widget(bottom).hotkeyLetter = true;
+    for (const int bottom : {id::exit, id::help, id::prefs, id::replay, id::newGame})
+        widget(bottom).hotkeyLetter = true;
     widget(id::continueGame).hidden = true;
 }
 

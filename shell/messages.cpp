@@ -21,7 +21,8 @@ constexpr int newestTop = 375;
 constexpr int lineStep = 10;
 
 bool barIsEmpty() {
-    return std::all_of(messageBar.lines.begin(), messageBar.lines.end(), [](const auto& line) { return line.empty(); });
+    return std::all_of(messageBar.lines.begin(), messageBar.lines.end(),
+                       [](const auto& line) { return line.empty(); });
 }
 
 void scrollIn(std::string_view line) {

@@ -4,8 +4,8 @@
 namespace gloomdeck {
 
 /// Processes the pointer once: 1 when a click completed (a button, a list or menu choice, or a play-screen
-/// action that used a turn), else 0. A click may open a modal screen that calls this again: nothing here keeps
-/// pressedWidget or clickedButton across a click.
+/// action that used a turn), else 0. A click may open a modal screen that calls this again: nothing here
+/// keeps pressedWidget or clickedButton across a click.
 int handleMouse();
 
 /// For a screen that opens: a button that is held was pressed on no widget of it.

@@ -56,11 +56,15 @@ bool waitNotingClose(const std::string& wanted) {
 
 }  // namespace
 
-void Delay(int n) { sleep(roundedRatio(std::int64_t{delayFactors[static_cast<std::size_t>(speedIndex())]} * n, 10)); }
+void Delay(int n) {
+    sleep(roundedRatio(std::int64_t{delayFactors[static_cast<std::size_t>(speedIndex())]} * n, 10));
+}
 
 void speedUp(int announce) { changeSpeed(1, announce, "Game speed increased to ", "Game speed at maximum."); }
 
-void speedDown(int announce) { changeSpeed(-1, announce, "Game speed decreased to ", "Game speed at minimum."); }
+void speedDown(int announce) {
+    changeSpeed(-1, announce, "Game speed decreased to ", "Game speed at minimum.");
+}
 
 void waitForAck(const std::string& key) {
     if (waitNotingClose(key)) giveBackClose(inputQueue());

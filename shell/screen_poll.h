@@ -14,8 +14,8 @@ struct ScreenEvent {
     std::string key;     // read only when no click completed; empty for none
 };
 
-/// One pass: a pause, the mouse first, and a key only when no click completed. With nothing to do it waits for
-/// input, at most until the deadline (on the clock of timer).
+/// One pass: a pause, the mouse first, and a key only when no click completed. With nothing to do it waits
+/// for input, at most until the deadline (on the clock of timer).
 ScreenEvent pollScreen(double deadline = noDeadline);
 
 /// True for the keys that leave the training, preferences and help screens.

@@ -32,7 +32,8 @@ void setTargetMode(int mode) {
 }
 
 void cancelTargetMode() {
-    if (ui.targetMode != target::none) ShowMessage(std::string("Canceled ") + currentMode().name + " mode.", 0);
+    if (ui.targetMode != target::none)
+        ShowMessage(std::string("Canceled ") + currentMode().name + " mode.", 0);
     ui.targetMode = target::none;
     drawModeIcon();
 }

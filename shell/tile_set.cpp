@@ -20,7 +20,8 @@ struct Strip {
     int tiles;
 };
 
-constexpr std::array strips{Strip{"dtiles.bmp", 1, 49}, Strip{"dtiles2.bmp", 50, 49}, Strip{"dtiles3.bmp", 99, 50}};
+constexpr std::array strips{Strip{"dtiles.bmp", 1, 49}, Strip{"dtiles2.bmp", 50, 49},
+                            Strip{"dtiles3.bmp", 99, 50}};
 
 void cutStrip(const Strip& strip, Image& work) {
     std::fill(work.pixels.begin(), work.pixels.end(), transparentColour);

@@ -1,0 +1,150 @@
+#include "tests/support/game_test.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/draw.h"
+#include "platform/frame.h"
+#include "platform/input.h"
+#include "prefs/saved_data.h"
+#include "shell/layout.h"
+#include "shell/lifecycle.h"
+#include "shell/palette.h"
+#include "shell/tile_set.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr int dungeon = 3;
+std::vector<std::string> folders;
+
+bool isTerrain(int number) {
+    for (const int terrain :
+         {tile::cellar, tile::ruins, tile::portal, tile::marble, tile::pictureFrame, tile::masonry})
+        if (number == terrain) return true;
+    return false;
+}
+
+Colour flatPixel(int number, int x, int y) {
+    const bool corner = (x < 2 || x > 29) && (y < 2 || y > 29);
+    return corner && !isTerrain(number) ? transparentColour : flatColour(number);
+}
+
+void append(std::string& bytes, std::uint32_t value, int size) {
+    for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFF));
+}
+
+// A 24-bit bitmap, rows bottom up; every width here is a multiple of four.
+template <typename PixelAt>
+void writeBitmap(const std::string& path, int width, int height, PixelAt at) {
+    std::string bytes = "BM";
+    const auto size = static_cast<std::uint32_t>(54 + 3 * width * height);
+    for (const std::uint32_t value :
+         {size, 0U, 54U, 40U, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height),
+          1U | 24U << 16, 0U, size - 54, 0U, 0U, 0U, 0U})
+        append(bytes, value, 4);
+    for (int y = height - 1; y >= 0; --y)
+        for (int x = 0; x < width; ++x) append(bytes, at(x, y) & 0xFFFFFF, 3);
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+void writeStrip(const std::string& path, int firstTile, int tiles) {
+    writeBitmap(path, tiles * tile::size, tile::size,
+                [=](int x, int y) { return flatPixel(firstTile + x / tile::size, x % tile::size, y); });
+}
+
+}  // namespace
+
+Colour flatColour(int tileNumber) {
+    const auto n = static_cast<Colour>(tileNumber);
+    return 0xFF000000 | (40 + n) << 16 | (n * 37 % 200 + 20) << 8 | (n * 91 % 180 + 10);
+}
+
+void makeFlatTiles() {
+    for (int number = 1; number <= tile::count; ++number) {
+        Image& image = tileImages[static_cast<std::size_t>(number - 1)];
+        image = createImage(tile::size, tile::size);
+        for (int y = 0; y < tile::size; ++y)
+            for (int x = 0; x < tile::size; ++x)
+                image.pixels[static_cast<std::size_t>(y * tile::size + x)] = flatPixel(number, x, y);
+    }
+    cellBackup = createImage(tile::size, tile::size);
+}
+
+void writeFlatPictures(const std::string& folder) {
+    std::filesystem::create_directories(folder + "/gfx");
+    writeStrip(folder + "/gfx/dtiles.bmp", 1, 49);
+    writeStrip(folder + "/gfx/dtiles2.bmp", 50, 49);
+    writeStrip(folder + "/gfx/dtiles3.bmp", 99, 50);
+    writeBitmap(folder + "/gfx/dtitle.bmp", frameWidth, frameHeight, [](int, int) { return 0x102030U; });
+}
+
+std::string makeProgramFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "gloomdeck-XXXXXX").string();
+    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+    std::filesystem::create_directories(name + "/Data");
+    writeFlatPictures(name);
+    folders.push_back(name);
+    return name;
+}
+
+void removeProgramFolders() {
+    for (const std::string& folder : folders) std::filesystem::remove_all(folder);
+    folders.clear();
+}
+
+void resetProgram() {
+    script::reset();
+    resetInput();
+    resetClock();
+    resetFrame();
+    resetCatalogue();
+    resetRolls();
+    resetLifecycle();
+    forgetSafePoint();
+    game = {};
+    prefs = {};
+    ui = {};
+    pressedWidget = notPressed;
+    clickedButton = -1;
+    clearMessages();
+    layOutWidgets();
+}
+
+void makeEmptyBoard() {
+    for (int col = 0; col < columnCount; ++col) {
+        column(col) = {};
+        column(col).location = dungeon;
+        for (int row = 0; row < rowCount; ++row) cell(col, row) = enc::Empty;
+    }
+    game.campaign = none;
+}
+
+void GameTest::SetUp() {
+    resetProgram();
+    openWindow(frameWidth, frameHeight);
+    setDefaultColours(colour::text, colour::panel);
+    makeFlatTiles();
+    makeEmptyBoard();
+    prefs.GameSpeed = speedCount - 1;
+    prefs.currentScreen = screen_id::play;
+    rolls({});
+}
+
+void GameTest::TearDown() {
+    EXPECT_EQ(leftoverRolls(), 0) << "fed rolls that nobody drew";
+    EXPECT_EQ(missingRolls(), 0) << "draws beyond the fed rolls";
+    EXPECT_EQ(ui.lockDepth, 0) << "the screen is still locked";
+    resetProgram();
+    removeProgramFolders();
+}
+
+Colour pixelAt(int x, int y) { return screen().pixels[static_cast<std::size_t>(y * screen().width + x)]; }
+
+}  // namespace gloomdeck

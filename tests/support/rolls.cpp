@@ -1,0 +1,50 @@
+#include "tests/support/rolls.h"
+
+#include <deque>
+#include <random>
+
+#include "platform/random.h"
+
+namespace gloomdeck {
+
+namespace {
+
+std::deque<FedRoll> fed;
+int missing = 0;
+std::mt19937_64 stream;
+
+double nextFed() {
+    if (fed.empty()) {
+        ++missing;
+        return 0.0;
+    }
+    const FedRoll roll = fed.front();
+    fed.pop_front();
+    return (roll.value - 0.5) / roll.sides;
+}
+
+double nextOfStream() { return static_cast<double>(stream() >> 11) * 0x1.0p-53; }
+
+}  // namespace
+
+void rolls(std::initializer_list<FedRoll> list) {
+    fed.insert(fed.end(), list);
+    useRandomSource(nextFed);
+}
+
+void seedRolls(std::uint64_t seed) {
+    stream.seed(seed);
+    useRandomSource(nextOfStream);
+}
+
+int leftoverRolls() { return static_cast<int>(fed.size()); }
+
+int missingRolls() { return missing; }
+
+void resetRolls() {
+    fed.clear();
+    missing = 0;
+    useRandomSource(nullptr);
+}
+
+}  // namespace gloomdeck

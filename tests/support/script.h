@@ -1,0 +1,54 @@
+// A player in steps: each is handed out when the program has come to rest after the one before.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "platform/geometry.h"
+#include "platform/input_queue.h"
+#include "tests/support/game_test.h"
+
+namespace gloomdeck {
+
+Point boardCell(int col, int row);  ///< the cell's middle
+Point statsCell(int item);
+Point widgetCentre(int widgetId);
+
+struct Script {
+    using Step = std::function<void(InputQueue&)>;
+
+    Script& key(std::string_view text);
+    Script& type(std::string_view text);  ///< one key a character
+    Script& move(Point at);
+    Script& press(Point at);
+    Script& release(Point at);
+    Script& leave();
+    Script& click(Point at);  ///< moves there, presses and releases at once
+    Script& closeWindow();
+    Script& wait(double seconds);  ///< the clock moves on
+    Script& check(std::function<void()> look);
+    Script& then(Step step);
+    Script& passTitle() { return key(" "); }
+
+    std::deque<Step> steps;
+};
+
+/// Runs the whole program in that folder with the script as its player; the answer is its exit code. A script
+/// that runs dry, or that is not used up, fails the test (answer -1).
+int runProgram(const Script& script, const std::string& folder);
+
+/// Lets the script play whatever runs next; the same failures are reported by finishScript.
+void startScript(const Script& script);
+void finishScript();
+
+/// The whole program under test: it starts in a folder of its own.
+class PlayTest : public GameTest {
+  protected:
+    void SetUp() override;
+    int run(const Script& script) { return runProgram(script, folder); }
+
+    std::string folder;
+};
+
+}  // namespace gloomdeck
