@@ -9,6 +9,7 @@
 
 #include "platform/clock.h"
 #include "platform/draw.h"
+#include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "prefs/saved_data.h"
@@ -146,5 +147,15 @@ void GameTest::TearDown() {
 }
 
 Colour pixelAt(int x, int y) { return screen().pixels[static_cast<std::size_t>(y * screen().width + x)]; }
+
+bool textStandsAt(int x, int y, std::string_view text, Colour ink) {
+    for (std::size_t i = 0; i < text.size(); ++i)
+        for (int dy = 0; dy < glyphSize; ++dy)
+            for (int dx = 0; dx < glyphSize; ++dx) {
+                const bool inked = (glyphOf(text[i])[static_cast<std::size_t>(dy)] >> (7 - dx) & 1) != 0;
+                if ((pixelAt(x + glyphSize * static_cast<int>(i) + dx, y + dy) == ink) != inked) return false;
+            }
+    return true;
+}
 
 }  // namespace gloomdeck

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
@@ -48,5 +49,8 @@ Colour pixelAt(int x, int y);
 
 /// The colour that the flat tile of that number has in its middle.
 Colour flatColour(int tileNumber);
+
+/// True when the pixels of the text's glyphs, and no others of its cells, have the colour of the ink.
+bool textStandsAt(int x, int y, std::string_view text, Colour ink);
 
 }  // namespace gloomdeck
