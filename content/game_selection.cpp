@@ -32,7 +32,7 @@ namespace {
 
 constexpr int barHeight = 479;
 constexpr std::size_t longestTyped = 17;
-constexpr double blinkTime = 0.5;  // seconds each way
+constexpr double blinkTime = 0.25;  // seconds each way
 constexpr Rect infoPanel{8, 32, 252, 128};
 constexpr Rect nameField{8, 172, 252, 192};
 constexpr int nameLeft = 16;
