@@ -99,18 +99,21 @@ Extent drawingSize() {
 
 SDL_Rect asSdl(const Rect& r) { return {r.x1, r.y1, r.x2 - r.x1 + 1, r.y2 - r.y1 + 1}; }
 
-void paintSurface(bool around) {
+Rows allRows() { return {0, frameSize.height - 1}; }
+
+// The whole window, black around the picture; or those rows of the frame alone.
+void paintSurface(Rows rows, bool whole) {
     SDL_Surface* surface = writableSurface();
     if (!surface) return;
+    if (whole) SDL_FillRect(surface, nullptr, 0);
     const Rect fit = fitFrame(frameSize, {surface->w, surface->h});
-    if (around) SDL_FillRect(surface, nullptr, 0);
-    drawFitted(shownPixels.data(), frameSize, fit, static_cast<Colour*>(surface->pixels),
-               surface->pitch / bytesPerPixel);
-    const SDL_Rect picture = asSdl(fit);
-    if (around)
+    auto* const area = static_cast<Colour*>(surface->pixels);
+    const SDL_Rect drawn =
+        asSdl(drawFitted(frameSize, shownPixels.data(), rows, fit, area, surface->pitch / bytesPerPixel));
+    if (whole)
         SDL_UpdateWindowSurface(window);
     else
-        SDL_UpdateWindowSurfaceRects(window, &picture, 1);
+        SDL_UpdateWindowSurfaceRects(window, &drawn, 1);
 }
 
 void paintRenderer() {
@@ -156,18 +159,20 @@ void titleDesktopWindow(const std::string& title) {
 }
 
 void showFrame(const Colour* pixels) {
+    const auto rows = changedRows(frameSize, shownPixels.data(), pixels);
+    if (!rows) return;
     std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
     if (renderer)
         paintRenderer();
     else
-        paintSurface(false);
+        paintSurface(*rows, false);
 }
 
 void repaintWindow() {
     if (renderer)
         paintRenderer();
     else
-        paintSurface(true);
+        paintSurface(allRows(), true);
 }
 
 std::optional<Point> framePixelUnder(Point place) {

@@ -16,7 +16,7 @@ void closeDesktopWindow();
 
 void titleDesktopWindow(const std::string& title);
 
-/// Shows a frame and keeps it for repaints.
+/// Shows what a frame changes and keeps it for repaints.
 void showFrame(const Colour* pixels);
 
 /// Shows the kept frame (black before the first) and the black around it again.

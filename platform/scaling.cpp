@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace gloomdeck {
 
@@ -20,11 +21,11 @@ Extent shrunk(Extent frame, Extent area) {
     return {std::max(1, area.height * frame.width / frame.height), area.height};
 }
 
-void enlarge(const Colour* pixels, Extent frame, int scale, Colour* target, int pitch) {
-    const int width = frame.width * scale;
-    for (int y = 0; y < frame.height; ++y) {
+void enlarge(const Colour* pixels, Extent block, int scale, Colour* target, int pitch) {
+    const int width = block.width * scale;
+    for (int y = 0; y < block.height; ++y) {
         Colour* const firstRow = target;
-        for (int x = 0; x < frame.width; ++x) std::fill_n(firstRow + x * scale, scale, *pixels++);
+        for (int x = 0; x < block.width; ++x) std::fill_n(firstRow + x * scale, scale, *pixels++);
         target += pitch;
         for (int copy = 1; copy < scale; ++copy, target += pitch) std::copy_n(firstRow, width, target);
     }
@@ -60,6 +61,16 @@ void shrink(const Colour* pixels, Extent frame, Extent picture, Colour* target, 
 
 }  // namespace
 
+std::optional<Rows> changedRows(Extent frame, const Colour* before, const Colour* now) {
+    const Colour* const end = now + std::ptrdiff_t{frame.width} * frame.height;
+    const auto first = std::mismatch(now, end, before).first;
+    if (first == end) return std::nullopt;
+    const auto last = std::mismatch(std::reverse_iterator(end), std::reverse_iterator(now),
+                                    std::reverse_iterator(before + (end - now)));
+    const auto rowOf = [&](const Colour* pixel) { return static_cast<int>((pixel - now) / frame.width); };
+    return Rows{rowOf(first), rowOf(last.first.base() - 1)};
+}
+
 int openingScale(Extent usable) {
     const int scale = std::min(usable.width / roomForOne.width, usable.height / roomForOne.height);
     return std::clamp(scale, 1, largestOpening);
@@ -79,12 +90,18 @@ std::optional<Point> framePixelAt(Extent frame, const Rect& fit, int x, int y) {
     return Point{(x - fit.x1) * frame.width / widthOf(fit), (y - fit.y1) * frame.height / heightOf(fit)};
 }
 
-void drawFitted(const Colour* pixels, Extent frame, const Rect& fit, Colour* area, int pitch) {
-    Colour* const corner = area + static_cast<std::ptrdiff_t>(fit.y1) * pitch + fit.x1;
+Rect drawFitted(Extent frame, const Colour* pixels, Rows rows, const Rect& fit, Colour* area, int pitch) {
+    const auto placeOf = [&](int y) { return area + std::ptrdiff_t{y} * pitch + fit.x1; };
     const Extent picture{widthOf(fit), heightOf(fit)};
-    if (picture.width < frame.width || picture.height < frame.height)
-        return shrink(pixels, frame, picture, corner, pitch);
-    enlarge(pixels, frame, picture.width / frame.width, corner, pitch);
+    if (picture.width < frame.width || picture.height < frame.height) {
+        shrink(pixels, frame, picture, placeOf(fit.y1), pitch);
+        return fit;
+    }
+    const int scale = picture.width / frame.width;
+    const Rect drawn{fit.x1, fit.y1 + rows.first * scale, fit.x2, fit.y1 + (rows.last + 1) * scale - 1};
+    const Extent block{frame.width, rows.last - rows.first + 1};
+    enlarge(pixels + std::ptrdiff_t{rows.first} * frame.width, block, scale, placeOf(drawn.y1), pitch);
+    return drawn;
 }
 
 }  // namespace gloomdeck

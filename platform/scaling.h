@@ -15,6 +15,16 @@ struct Extent {
     friend bool operator==(const Extent&, const Extent&) = default;
 };
 
+/// Rows of a frame, top and bottom, both included.
+struct Rows {
+    int first = 0;
+    int last = 0;
+    friend bool operator==(const Rows&, const Rows&) = default;
+};
+
+/// From the first to the last row in which two frames differ; none where they are the same.
+std::optional<Rows> changedRows(Extent frame, const Colour* before, const Colour* now);
+
 /// How many times its size (1 to 4) a window for the frame opens on a display with that much usable room:
 /// large enough to read, and leaving at least half the width and a third of the height free.
 int openingScale(Extent usable);
@@ -26,8 +36,9 @@ Rect fitFrame(Extent frame, Extent area);
 /// The frame's pixel under the area's pixel (x, y); none beside the picture.
 std::optional<Point> framePixelAt(Extent frame, const Rect& fit, int x, int y);
 
-/// Draws the frame at its place: whole multiples in hard pixels, smaller pictures by averaging. Rows of the
-/// area stand pitch pixels apart; pixels beside the picture keep their values.
-void drawFitted(const Colour* pixels, Extent frame, const Rect& fit, Colour* area, int pitch);
+/// Draws those rows of the frame at their place: whole multiples in hard pixels, smaller pictures by
+/// averaging and whole. Rows of the area stand pitch pixels apart. Answers what it drew; all else keeps its
+/// pixels.
+Rect drawFitted(Extent frame, const Colour* pixels, Rows rows, const Rect& fit, Colour* area, int pitch);
 
 }  // namespace gloomdeck

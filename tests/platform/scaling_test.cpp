@@ -70,17 +70,31 @@ TEST(Scaling, PlacesMapBackToTheFramesPixelsAndNoFurther) {
     EXPECT_FALSE(framePixelAt(frame, fitFrame(frame, {408, 488}), -3, 5));
 }
 
+TEST(Scaling, ChangedRowsReachFromTheFirstToTheLastDifference) {
+    const Extent small{3, 4};
+    const std::vector<Colour> before(12, 7);
+    EXPECT_FALSE(changedRows(small, before.data(), before.data()));
+    std::vector<Colour> now = before;
+    now[5] = 8;
+    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{1, 1}));
+    now[6] = 8;
+    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{1, 2}));
+    now[0] = now[11] = 8;
+    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{0, 3}));
+}
+
 TEST(Scaling, EnlargedPixelsAreHardBlocksAndTheRestStays) {
-    const std::vector<Colour> pixels{1, 2, 3, 4, 5, 6};
-    const Extent small{3, 2};
-    Area area({11, 8});
+    const std::vector<Colour> pixels{1, 2, 3, 4, 5, 6, 7, 8, 9};
+    const Extent small{3, 3};
+    Area area({11, 12});
     const Rect fit = fitFrame(small, area.size);
-    drawFitted(pixels.data(), small, fit, area.pixels.data(), area.size.width);
+    EXPECT_EQ(drawFitted(small, pixels.data(), {1, 2}, fit, area.pixels.data(), area.size.width),
+              (Rect{1, 4, 9, 9}));
     for (int y = 0; y < area.size.height; ++y)
         for (int x = 0; x < area.size.width; ++x) {
             const auto source = framePixelAt(small, fit, x, y);
-            const std::size_t index = source ? static_cast<std::size_t>(source->y * 3 + source->x) : 0;
-            EXPECT_EQ(area.at(x, y), source ? pixels[index] : untouched) << x << ", " << y;
+            const bool drawn = source && source->y >= 1;
+            EXPECT_EQ(area.at(x, y), drawn ? static_cast<Colour>(source->y * 3 + source->x + 1) : untouched);
         }
 }
 
@@ -88,7 +102,8 @@ TEST(Scaling, ShrunkPicturesAverageEveryPixelOfTheFrame) {
     const std::vector<Colour> pixels{0xFF000000, 0xFF0000FF, 0xFF800000, 0xFF008000,
                                      0xFF0000FF, 0xFF000000, 0xFF800000, 0xFF008000};
     Area area({2, 9});
-    drawFitted(pixels.data(), {4, 2}, fitFrame({4, 2}, area.size), area.pixels.data(), area.size.width);
+    const Rect fit = fitFrame({4, 2}, area.size);
+    EXPECT_EQ(drawFitted({4, 2}, pixels.data(), {1, 1}, fit, area.pixels.data(), area.size.width), fit);
     EXPECT_EQ(area.at(0, 4), 0xFF00007FU);
     EXPECT_EQ(area.at(1, 4), 0xFF404000U);
     EXPECT_EQ(area.at(0, 3), untouched);
