@@ -27,8 +27,10 @@ double nextOfStream() { return static_cast<double>(stream() >> 11) * 0x1.0p-53; 
 
 }  // namespace
 
-void rolls(std::initializer_list<FedRoll> list) {
-    fed.insert(fed.end(), list);
+void rolls(std::initializer_list<FedRoll> list) { rolls(std::vector<FedRoll>(list)); }
+
+void rolls(const std::vector<FedRoll>& list) {
+    fed.insert(fed.end(), list.begin(), list.end());
     useRandomSource(nextFed);
 }
 

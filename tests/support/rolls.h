@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <vector>
 
 namespace gloomdeck {
 
@@ -14,6 +15,7 @@ struct FedRoll {
 
 /// Appends rolls; from now on running out of them fails the test (each further roll shows 1).
 void rolls(std::initializer_list<FedRoll> list);
+void rolls(const std::vector<FedRoll>& list);
 
 /// Random numbers from a seeded stream instead.
 void seedRolls(std::uint64_t seed);
