@@ -43,21 +43,38 @@ void append(std::string& bytes, std::uint32_t value, int size) {
 
 // A 24-bit bitmap, rows bottom up; every width here is a multiple of four.
 template <typename PixelAt>
-void writeBitmap(const std::string& path, int width, int height, PixelAt at) {
+std::string bitmap(int width, int height, PixelAt at) {
     std::string bytes = "BM";
     const auto size = static_cast<std::uint32_t>(54 + 3 * width * height);
+    bytes.reserve(size);
     for (const std::uint32_t value :
          {size, 0U, 54U, 40U, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height),
           1U | 24U << 16, 0U, size - 54, 0U, 0U, 0U, 0U})
         append(bytes, value, 4);
     for (int y = height - 1; y >= 0; --y)
         for (int x = 0; x < width; ++x) append(bytes, at(x, y) & 0xFFFFFF, 3);
-    std::ofstream(path, std::ios::binary) << bytes;
+    return bytes;
 }
 
-void writeStrip(const std::string& path, int firstTile, int tiles) {
-    writeBitmap(path, tiles * tile::size, tile::size,
-                [=](int x, int y) { return flatPixel(firstTile + x / tile::size, x % tile::size, y); });
+std::string flatStrip(int firstTile, int tiles) {
+    return bitmap(tiles * tile::size, tile::size,
+                  [=](int x, int y) { return flatPixel(firstTile + x / tile::size, x % tile::size, y); });
+}
+
+struct PictureFile {
+    const char* name;
+    std::string bytes;
+};
+
+// Made once: every test of the whole program writes them.
+const std::array<PictureFile, 4>& flatPictures() {
+    static const std::array<PictureFile, 4> files{{
+        {"dtiles.bmp", flatStrip(1, 49)},
+        {"dtiles2.bmp", flatStrip(50, 49)},
+        {"dtiles3.bmp", flatStrip(99, 50)},
+        {"dtitle.bmp", bitmap(frameWidth, frameHeight, [](int, int) { return 0x102030U; })},
+    }};
+    return files;
 }
 
 }  // namespace
@@ -80,10 +97,8 @@ void makeFlatTiles() {
 
 void writeFlatPictures(const std::string& folder) {
     std::filesystem::create_directories(folder + "/gfx");
-    writeStrip(folder + "/gfx/dtiles.bmp", 1, 49);
-    writeStrip(folder + "/gfx/dtiles2.bmp", 50, 49);
-    writeStrip(folder + "/gfx/dtiles3.bmp", 99, 50);
-    writeBitmap(folder + "/gfx/dtitle.bmp", frameWidth, frameHeight, [](int, int) { return 0x102030U; });
+    for (const PictureFile& file : flatPictures())
+        std::ofstream(folder + "/gfx/" + file.name, std::ios::binary) << file.bytes;
 }
 
 std::string makeProgramFolder() {

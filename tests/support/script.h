@@ -15,6 +15,12 @@ Point boardCell(int col, int row);  ///< the cell's middle
 Point statsCell(int item);
 Point widgetCentre(int widgetId);
 
+/// A quick click, as hosts report it.
+void clickAt(InputQueue& queue, Point at);
+
+/// Gives the hero so many of everything.
+void giveHero(int n);
+
 struct Script {
     using Step = std::function<void(InputQueue&)>;
 
@@ -24,12 +30,19 @@ struct Script {
     Script& press(Point at);
     Script& release(Point at);
     Script& leave();
-    Script& click(Point at);  ///< moves there, presses and releases at once
+    Script& click(Point at);       ///< moves there, presses and releases at once
+    Script& button(int widgetId);  ///< clicks the widget where it stands by then
     Script& closeWindow();
     Script& wait(double seconds);  ///< the clock moves on
     Script& check(std::function<void()> look);
+    Script& screen(std::string_view windowTitle);  ///< expects that screen
+    Script& newest(std::string_view message);      ///< expects that newest message
     Script& then(Step step);
+    Script& until(std::function<bool()> done, Step step);  ///< the step again and again
     Script& passTitle() { return key(" "); }
+    Script& startScenario(int listPosition);  ///< from the title of a first start
+    Script& hurry();                          ///< the next tile of every column is The End
+    Script& clearBoard();                     ///< clicks tile after tile until the board is done
 
     std::deque<Step> steps;
 };
@@ -47,6 +60,12 @@ class PlayTest : public GameTest {
   protected:
     void SetUp() override;
     int run(const Script& script) { return runProgram(script, folder); }
+    int restart(const Script& script);  ///< the next run in the same folder, nothing left of the one before
+    void removePictures();              ///< for many quick runs
+
+    /// The bytes of Data/name, empty when there is no such file.
+    std::string dataFile(const std::string& name) const;
+    void writeDataFile(const std::string& name, const std::string& bytes) const;
 
     std::string folder;
 };
