@@ -13,6 +13,9 @@ namespace gloomdeck {
 
 namespace {
 
+constexpr int hiddenValue = -100;
+constexpr int trapDamage = 60;  // three times the trap's die
+
 // A cell under assessment: its table row, where it stands, and what comes out.
 struct Subject {
     int col;
@@ -89,7 +92,7 @@ void assessDoor(Subject& s) { assessLock(s, 20, 8, 1); }
 void assessDoubleDoor(Subject& s) { assessLock(s, 25, 10, 2); }
 
 void assessTrap(Subject& s) {
-    if (count(health) > ReduceDamage(60))
+    if (count(health) > ReduceDamage(trapDamage))
         s.a.value = s.values.easyValue;
     else
         makeHard(s);
@@ -202,7 +205,7 @@ void applyRule(Subject& s) {
 
 CellAssessment assessCell(int col, int row, int eyeRow) {
     if (IsPastEnd(col, row) || column(col).finished) return {.value = 0, .category = category::unavailable};
-    if (eyeRow != none && row > eyeRow) return {.value = -100, .category = category::unavailable};
+    if (eyeRow != none && row > eyeRow) return {.value = hiddenValue, .category = category::unavailable};
     const AutoplayerRow& values = autoplayerRow(cell(col, row));
     Subject s{.col = col,
               .row = row,
@@ -232,20 +235,18 @@ Neighbour neighbourAt(int col, int row) {
 
 }  // namespace
 
-Assessment assessBoard() {
-    Assessment assessment;
-    assessment.eyeRows = eyeRowsNow();
-    for (int col = 0; col < columnCount; ++col)
-        for (int row = 0; row < rowCount; ++row)
-            assessment.cells[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)] =
-                assessCell(col, row, assessment.eyeRow(col));
-    return assessment;
-}
-
-std::array<int, columnCount> eyeRowsNow() {
-    std::array<int, columnCount> rows{};
+EyeRows eyeRowsNow() {
+    EyeRows rows{};
     for (int col = 0; col < columnCount; ++col) rows[static_cast<std::size_t>(col)] = FirstEyeRow(col);
     return rows;
+}
+
+Assessment assessBoard(const EyeRows& eyeRows) {
+    Assessment assessment;
+    for (int col = 0; col < columnCount; ++col)
+        for (int row = 0; row < rowCount; ++row)
+            assessment.at(col, row) = assessCell(col, row, eyeRows[static_cast<std::size_t>(col)]);
+    return assessment;
 }
 
 bool CategoryEnabled(int categoryNumber) {

@@ -15,22 +15,25 @@ struct CellAssessment {
     std::int32_t allowed = 0;   // 1: the cell may be chosen
 };
 
+/// FirstEyeRow of each column, taken once a pass.
+using EyeRows = std::array<int, columnCount>;
+
 /// One pass's view of the board.
 struct Assessment {
     std::array<std::array<CellAssessment, rowCount>, columnCount> cells;
-    std::array<int, columnCount> eyeRows;  // FirstEyeRow of each column
 
+    CellAssessment& at(int col, int row) {
+        return cells[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)];
+    }
     const CellAssessment& at(int col, int row) const {
         return cells[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)];
     }
-    int eyeRow(int col) const { return eyeRows[static_cast<std::size_t>(col)]; }
 };
 
-/// Assesses every cell with the eyes as they are now.
-Assessment assessBoard();
+EyeRows eyeRowsNow();
 
-/// Takes the eye rows alone, for a board that is done.
-std::array<int, columnCount> eyeRowsNow();
+/// Assesses every cell.
+Assessment assessBoard(const EyeRows& eyeRows);
 
 /// True when the switches allow the category.
 bool CategoryEnabled(int categoryNumber);

@@ -1,6 +1,5 @@
 #include "autoplayer/autoplayer.h"
 
-#include <array>
 #include <optional>
 #include <string>
 
@@ -73,7 +72,7 @@ bool sweepColumn(int col, int eyeRow) {
     return UseWeapon({col, eyeRow}) || Encounter(col, bottomRow, 0) == 1;
 }
 
-bool sweepGrief(const std::array<int, columnCount>& eyeRows) {
+bool sweepGrief(const EyeRows& eyeRows) {
     for (int col = 0; col < columnCount; ++col)
         if (!column(col).finished && sweepColumn(col, eyeRows[static_cast<std::size_t>(col)])) return true;
     return false;
@@ -81,9 +80,9 @@ bool sweepGrief(const std::array<int, columnCount>& eyeRows) {
 
 Move findMove() {
     const bool boardDone = AllColumnsFinished();
-    const std::array<int, columnCount> eyeRows = eyeRowsNow();
+    const EyeRows eyeRows = eyeRowsNow();
     Move move;
-    if (!boardDone) move = chooseMove(assessBoard());
+    if (!boardDone) move = chooseMove(assessBoard(eyeRows));
     if (!move.found && prefs.grief) move.found = sweepGrief(eyeRows);
     return move;
 }
