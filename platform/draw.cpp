@@ -72,8 +72,6 @@ void setDefaultColours(Colour text, Colour background) {
     backgroundColour = background;
 }
 
-Colour defaultTextColour() { return textColour; }
-
 void clearScreen() {
     std::fill(screen().pixels.begin(), screen().pixels.end(), backgroundColour);
     frameChanged();

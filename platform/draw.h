@@ -9,7 +9,6 @@ namespace gloomdeck {
 
 /// The colours of text that names none, and of a cleared screen.
 void setDefaultColours(Colour text, Colour background);
-Colour defaultTextColour();
 
 /// Fills the frame with the default background colour.
 void clearScreen();

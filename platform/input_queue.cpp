@@ -100,9 +100,14 @@ KeyPress takeKey(InputQueue& queue) {
     return key;
 }
 
-bool keyWaits(const InputQueue& queue) { return queue.ending || !queue.keys.empty(); }
+bool keyWaits(const InputQueue& queue) {
+    const auto isForTheGame = [](const KeyPress& key) { return key.text != keycode::tab; };
+    return queue.ending || std::any_of(queue.keys.begin(), queue.keys.end(), isForTheGame);
+}
 
-bool inputWaits(const InputQueue& queue) { return keyWaits(queue) || !queue.changes.empty(); }
+bool inputWaits(const InputQueue& queue) {
+    return queue.ending || !queue.keys.empty() || !queue.changes.empty();
+}
 
 void notePause(InputQueue& queue) { queue.paused = true; }
 

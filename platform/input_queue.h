@@ -79,7 +79,11 @@ void endRequested(InputQueue& queue);
 
 MouseState takeMouse(InputQueue& queue);
 KeyPress takeKey(InputQueue& queue);
+
+/// True when a key for the game waits; Tab is none.
 bool keyWaits(const InputQueue& queue);
+
+/// True when anything waits to be polled.
 bool inputWaits(const InputQueue& queue);
 
 /// Tells that the game paused for an action: what piled up meanwhile is thinned at the next poll.

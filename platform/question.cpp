@@ -106,7 +106,7 @@ int answerOfKey(Question& q, const KeyPress& key) {
 
 // A click answers when it goes down and up on the same button.
 int answerOfMouse(Question& q, const MouseState& mouse) {
-    const bool down = mouse.status == 0 && (mouse.buttons & 1) != 0;
+    const bool down = inputQueue().handedDown;  // also while the pointer is outside: leaving is no release
     if (down == q.held) return open;
     q.held = down;
     const int under = mouse.status == 0 ? answerAt(q, mouse.x, mouse.y) : open;

@@ -27,7 +27,7 @@ void changeSpeed(int step, int announce, const char* changed, const char* atLimi
 bool leftIsHeld(const MouseState& mouse) { return mouse.status == 0 && (mouse.buttons & 1) != 0; }
 
 void waitForRelease() {
-    while (leftIsHeld(getMouse())) pausePolling(1);
+    while (leftIsHeld(getMouse()) && !programIsEnding()) pausePolling(1);
 }
 
 bool acknowledges(const std::string& key, const std::string& wanted) {
