@@ -1,0 +1,174 @@
+// Bitmap files: every depth that is read, and files that lie.
+#include "platform/bitmap.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "platform/frame.h"
+#include "tests/support/game_test.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr std::size_t headers = 54;
+
+void poke(std::string& file, std::size_t at, std::uint32_t value, int size = 4) {
+    for (int i = 0; i < size; ++i)
+        file[at + static_cast<std::size_t>(i)] = static_cast<char>(value >> (8 * i) & 0xFF);
+}
+
+// A file of the plain kind; palette and rows (padded) as given.
+std::string bitmap(int width, int height, int bits, const std::string& palette, const std::string& rows) {
+    std::string file(headers, '\0');
+    file[0] = 'B';
+    file[1] = 'M';
+    poke(file, 10, static_cast<std::uint32_t>(headers + palette.size()));
+    poke(file, 14, 40);
+    poke(file, 18, static_cast<std::uint32_t>(width));
+    poke(file, 22, static_cast<std::uint32_t>(height));
+    poke(file, 26, 1, 2);
+    poke(file, 28, static_cast<std::uint32_t>(bits), 2);
+    return file + palette + rows;
+}
+
+std::string bytes(std::initializer_list<int> values) {
+    std::string text;
+    for (const int value : values) text.push_back(static_cast<char>(value));
+    return text;
+}
+
+const std::string fourColours = bytes({1, 2, 3, 0, 11, 12, 13, 0, 21, 22, 23, 0, 31, 32, 33, 0});
+const std::string twoByTwo24 =
+    bitmap(2, 2, 24, "", bytes({1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 0}));
+
+}  // namespace
+
+class BitmapTest : public ::testing::Test {
+  protected:
+    void TearDown() override { std::filesystem::remove(path); }
+
+    // The pixels of a target of that size after the file was read into it.
+    std::vector<Colour> read(const std::string& file, int width = 2, int height = 2) const {
+        std::ofstream(path, std::ios::binary) << file;
+        Image target = createImage(width, height);
+        loadBitmap(path, target);
+        return target.pixels;
+    }
+
+    static std::vector<Colour> untouched(std::size_t count = 4) {
+        return std::vector<Colour>(count, transparentColour);
+    }
+
+    const std::string path =
+        std::filesystem::temp_directory_path() / ("gloomdeck-" + std::to_string(getpid()) + ".bmp");
+};
+
+TEST_F(BitmapTest, RowsStandBottomUpUnlessTheHeightIsNegative) {
+    const std::vector<Colour> expected{0xFF090807, 0xFF0C0B0A, 0xFF030201, 0xFF060504};
+    EXPECT_EQ(read(twoByTwo24), expected);
+    std::string topDown = twoByTwo24;
+    poke(topDown, 22, static_cast<std::uint32_t>(-2));
+    EXPECT_EQ(read(topDown), (std::vector<Colour>{expected[2], expected[3], expected[0], expected[1]}));
+}
+
+TEST_F(BitmapTest, EveryDepthGivesOpaquePixels) {
+    EXPECT_EQ(read(bitmap(2, 1, 32, "", bytes({1, 2, 3, 0, 0xFF, 0, 0xFF, 0x80})), 2, 1),
+              (std::vector<Colour>{0xFF030201, transparentColour}));
+    EXPECT_EQ(read(bitmap(3, 1, 8, fourColours, bytes({3, 0, 2, 0})), 3, 1),
+              (std::vector<Colour>{0xFF21201F, 0xFF030201, 0xFF171615}));
+    EXPECT_EQ(read(bitmap(3, 1, 4, fourColours, bytes({0x31, 0x20, 0, 0})), 3, 1),
+              (std::vector<Colour>{0xFF21201F, 0xFF0D0C0B, 0xFF171615}));
+    const std::vector<Colour> bits =
+        read(bitmap(10, 1, 1, fourColours.substr(0, 8), bytes({0x81, 0x40, 0, 0})), 10, 1);
+    for (std::size_t x = 0; x < bits.size(); ++x)
+        EXPECT_EQ(bits[x], x == 0 || x == 7 || x == 9 ? 0xFF0D0C0B : 0xFF030201) << x;
+}
+
+TEST_F(BitmapTest, TopLeftLiesOnTopLeftInSmallerAndLargerTargets) {
+    EXPECT_EQ(read(twoByTwo24, 1, 1), (std::vector<Colour>{0xFF090807}));
+    const std::vector<Colour> larger = read(twoByTwo24, 3, 3);
+    EXPECT_EQ(larger[0], 0xFF090807);
+    EXPECT_EQ(larger[4], 0xFF060504);
+    for (const std::size_t beyond : {2U, 5U, 6U, 7U, 8U}) EXPECT_EQ(larger[beyond], transparentColour);
+}
+
+TEST_F(BitmapTest, ALongerHeaderAndAGapBeforeThePixelsAreSkipped) {
+    std::string file = bitmap(2, 1, 8, "", "");
+    poke(file, 14, 108);
+    file += std::string(68, '\x55') + fourColours + "gap";
+    poke(file, 10, static_cast<std::uint32_t>(file.size()));
+    file += bytes({1, 3, 0, 0});
+    EXPECT_EQ(read(file, 2, 1), (std::vector<Colour>{0xFF0D0C0B, 0xFF21201F}));
+}
+
+TEST_F(BitmapTest, AFileCutShortAnywhereChangesNothing) {
+    const std::string palette8 = bitmap(2, 2, 8, fourColours, bytes({1, 2, 0, 0, 3, 0, 0, 0}));
+    for (const std::string& whole : {twoByTwo24, palette8}) {
+        EXPECT_NE(read(whole), untouched());
+        for (std::size_t length = whole.size(); length-- > 0;) {
+            std::filesystem::resize_file(path, length);
+            Image target = createImage(2, 2);
+            loadBitmap(path, target);
+            ASSERT_EQ(target.pixels, untouched()) << length << " of " << whole.size();
+        }
+    }
+}
+
+TEST_F(BitmapTest, LyingHeadersChangeNothing) {
+    struct Lie {
+        const char* name;
+        std::size_t at;
+        std::uint32_t value;
+        int size;
+    };
+    for (const Lie& lie :
+         {Lie{"mark", 0, 'X', 1}, Lie{"pixels beyond the file", 10, 0xFFFFFFF0, 4},
+          Lie{"pixels at the very end", 10, 70, 4}, Lie{"pixels in the header", 10, 20, 4},
+          Lie{"short header", 14, 12, 4}, Lie{"long header", 14, 0xFFFFFFFF, 4}, Lie{"no width", 18, 0, 4},
+          Lie{"negative width", 18, 0xFFFFFFFE, 4}, Lie{"huge width", 18, 0x7FFFFFFF, 4},
+          Lie{"width beyond the file", 18, 16384, 4}, Lie{"no height", 22, 0, 4},
+          Lie{"huge height", 22, 0x7FFFFFFF, 4}, Lie{"lowest height", 22, 0x80000000, 4},
+          Lie{"planes", 26, 2, 2}, Lie{"16 bits", 28, 16, 2}, Lie{"no bits", 28, 0, 2},
+          Lie{"2 bits", 28, 2, 2}, Lie{"run lengths", 30, 1, 4}, Lie{"bit fields", 30, 3, 4}}) {
+        std::string file = twoByTwo24;
+        poke(file, lie.at, lie.value, lie.size);
+        EXPECT_EQ(read(file), untouched()) << lie.name;
+    }
+}
+
+TEST_F(BitmapTest, AWrongPaletteCountReadsNothingOutsideAndMissingEntriesAreBlack) {
+    std::string file = bitmap(2, 1, 8, fourColours, bytes({1, 200, 0, 0}));
+    for (const std::uint32_t count : {0xFFFFFFFFU, 0x40000000U, 0U}) {
+        poke(file, 46, count);
+        EXPECT_EQ(read(file, 2, 1), (std::vector<Colour>{0xFF0D0C0B, 0xFF000000})) << count;
+    }
+    poke(file, 46, 1);
+    EXPECT_EQ(read(file, 2, 1)[0], 0xFF000000) << "the second entry is not in a palette of one";
+}
+
+TEST_F(BitmapTest, MissingFilesAndFoldersChangeNothing) {
+    Image target = createImage(2, 2);
+    loadBitmap(path + ".not", target);
+    loadBitmap(std::filesystem::path(path).parent_path(), target);
+    loadBitmap("", target);
+    EXPECT_EQ(target.pixels, untouched());
+}
+
+TEST_F(BitmapTest, APictureOnTheScreenIsShownAndSeparatorsAreMapped) {
+    resetProgram();
+    openWindow(frameWidth, frameHeight);
+    showFrameNow();
+    std::ofstream(path, std::ios::binary) << twoByTwo24;
+    std::string other = path;
+    other.replace(other.rfind('/'), 1, "\\");
+    loadBitmap(other, screen());
+    showFrameNow();
+    EXPECT_EQ(script::shownFrame()[0], 0xFF090807);
+    EXPECT_EQ(script::shownFrame()[static_cast<std::size_t>(frameWidth)], 0xFF030201);
+    resetProgram();
+}
+
+}  // namespace gloomdeck

@@ -1,0 +1,148 @@
+// Images: the three ways to put them, clipping, and cutting rectangles.
+#include "platform/image.h"
+
+#include "platform/draw.h"
+#include "platform/frame.h"
+#include "platform/kernels.h"
+#include "tests/support/game_test.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr Colour ground = 0xFF102030;
+
+// A picture whose every pixel tells its own place.
+Image numbered(int width, int height) {
+    Image image = createImage(width, height);
+    for (std::size_t i = 0; i < image.pixels.size(); ++i)
+        image.pixels[i] = 0xFF400000 | static_cast<Colour>(i);
+    return image;
+}
+
+void groundFrame() { fillBox(0, 0, frameWidth - 1, frameHeight - 1, ground); }
+
+// What the pixel must be after a copying put of a numbered picture at (x, y) inside that clip.
+Colour expectedAt(const Image& image, Point at, const Rect& clip, int x, int y) {
+    const Rect covered{at.x, at.y, at.x + image.width - 1, at.y + image.height - 1};
+    if (!contains(intersection(covered, clip), x, y)) return ground;
+    return 0xFF400000 | static_cast<Colour>((y - at.y) * image.width + x - at.x);
+}
+
+int wrongPixels(const Image& image, Point at, const Rect& clip) {
+    int wrong = 0;
+    for (int y = 0; y < frameHeight; ++y)
+        for (int x = 0; x < frameWidth; ++x) wrong += pixelAt(x, y) != expectedAt(image, at, clip, x, y);
+    return wrong;
+}
+
+}  // namespace
+
+class ImageTest : public GameTest {};
+
+TEST(Kernels, BlendingIsExactForEveryPairOfChannelsAndEveryAlpha) {
+    std::array<Colour, 64> from{};  // a quarter of the values in each channel
+    for (Colour i = 0; i < from.size(); ++i) from[i] = 0xC0804000 + i * 0x01010101;
+    long wrong = 0;
+    for (int alpha = 0; alpha < 256; ++alpha)
+        for (int d = 0; d < 256; ++d) {
+            std::array<Colour, 64> to{};
+            to.fill(static_cast<Colour>(d) * 0x01010101);
+            blendRow(to.data(), from.data(), 64, alpha);
+            for (std::size_t i = 0; i < from.size(); ++i)
+                for (int shift = 0; shift < 32; shift += 8) {
+                    const int s = static_cast<int>(from[i] >> shift & 0xFF);
+                    wrong += static_cast<int>(to[i] >> shift & 0xFF) != d + (s - d) * alpha / 256;
+                }
+        }
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST_F(ImageTest, TransparentPixelsAreSkippedWhateverTheirAlphaAndCopiedByCopy) {
+    groundFrame();
+    Image image = createImage(4, 1);
+    image.pixels = {transparentColour, 0x00FF00FF, 0x80FF00FF, 0xFFFF00FE};
+    for (const PutMode mode : {putTransparent, putBlended(255)}) {
+        putImage(10, 10, image, mode);
+        for (int x = 10; x < 13; ++x) EXPECT_EQ(pixelAt(x, 10), ground);
+    }
+    putImage(10, 10, image, putTransparent);
+    EXPECT_EQ(pixelAt(13, 10), 0xFFFF00FE);
+    putImage(10, 10, image, putCopy);
+    EXPECT_EQ(pixelAt(12, 10), 0x80FF00FF);
+}
+
+TEST_F(ImageTest, ABlendWithAlphaZeroLeavesEveryPixel) {
+    groundFrame();
+    const Image before = screen();
+    putImage(3, 5, numbered(40, 40), putBlended(0));
+    EXPECT_EQ(screen().pixels, before.pixels);
+}
+
+TEST_F(ImageTest, PutsAreCutAtEveryEdgeOfTheFrameAndBeyond) {
+    const Image image = numbered(32, 32);
+    const Rect whole{0, 0, frameWidth - 1, frameHeight - 1};
+    for (const Point at :
+         {Point{-31, 100}, Point{-32, 100}, Point{frameWidth - 1, 100}, Point{frameWidth, 100},
+          Point{100, -31}, Point{100, -500}, Point{100, frameHeight - 1}, Point{100, frameHeight + 100},
+          Point{-7, -9}, Point{400, 480}}) {
+        groundFrame();
+        putImage(at.x, at.y, image, putCopy);
+        EXPECT_EQ(wrongPixels(image, at, whole), 0) << at.x << ", " << at.y;
+    }
+}
+
+TEST_F(ImageTest, PutsStayInsideTheClipWhoseCornersComeInAnyOrder) {
+    const Image image = numbered(32, 32);
+    groundFrame();
+    setClip(60, 70, 50, 45);
+    for (const Point at : {Point{40, 40}, Point{55, 60}, Point{61, 71}}) putImage(at.x, at.y, image, putCopy);
+    EXPECT_EQ(wrongPixels(image, {40, 40}, {50, 45, 60, 70}), 6 * 11) << "the second put covers a corner";
+    EXPECT_EQ(pixelAt(60, 70), 0xFF400000 | (10 * 32 + 5));
+    resetClip();
+    putImage(0, 0, image, putCopy);
+    EXPECT_EQ(pixelAt(31, 31), 0xFF400000 | (32 * 32 - 1));
+}
+
+TEST_F(ImageTest, AClipOutsideTheFrameLetsNothingThrough) {
+    groundFrame();
+    setClip(frameWidth, 0, frameWidth + 50, 50);
+    putImage(frameWidth - 4, 0, numbered(32, 32), putCopy);
+    fillBox(-10, -10, 1000, 1000, 0xFFFFFFFF);
+    drawText(frameWidth - 8, 0, "X", 0xFFFFFFFF);
+    drawCircle(200, 200, 90, 0xFFFFFFFF);
+    drawLine(0, 0, 407, 487, 0xFFFFFFFF);
+    for (const Colour pixel : screen().pixels) ASSERT_EQ(pixel, ground);
+}
+
+TEST_F(ImageTest, CuttingTakesTheRectangleAndLeavesWhatLiesOutsideTheSource) {
+    const Image source = numbered(8, 8);
+    Image square = createImage(4, 4);
+    getImage(source, 2, 3, 5, 6, square);
+    EXPECT_EQ(square.pixels.front(), 0xFF400000 | (3 * 8 + 2));
+    EXPECT_EQ(square.pixels.back(), 0xFF400000 | (6 * 8 + 5));
+    Image beyond = createImage(4, 4);
+    getImage(source, 6, 6, 9, 9, beyond);
+    EXPECT_EQ(beyond.pixels[0], 0xFF400000 | (6 * 8 + 6));
+    EXPECT_EQ(beyond.pixels[5], 0xFF400000 | (7 * 8 + 7));
+    EXPECT_EQ(beyond.pixels[2], transparentColour);
+    EXPECT_EQ(beyond.pixels[8], transparentColour);
+    Image small = createImage(2, 2);
+    getImage(source, 0, 0, 7, 7, small);
+    EXPECT_EQ(small.pixels[3], 0xFF400000 | 9U) << "a larger rectangle is cut to the destination";
+}
+
+TEST_F(ImageTest, EmptyAndDestroyedImagesDrawNothing) {
+    groundFrame();
+    Image image = numbered(5, 5);
+    destroyImage(image);
+    destroyImage(image);
+    putImage(10, 10, image, putCopy);
+    putImage(10, 10, createImage(0, 7), putCopy);
+    Image source = numbered(3, 3);
+    getImage(source, 0, 0, 2, 2, image);
+    EXPECT_TRUE(image.pixels.empty());
+    EXPECT_EQ(pixelAt(10, 10), ground);
+}
+
+}  // namespace gloomdeck
