@@ -1,8 +1,8 @@
-// Whole sessions through the real start-up and main loop.
+// Whole games: from the title to the banner, and on in the next run.
 #include <cstring>
-#include <vector>
 
 #include "content/campaigns.h"
+#include "content/story_texts.h"
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "prefs/score.h"
@@ -25,34 +25,131 @@ bool stands(const std::function<void()>& draw) {
 }
 
 void expectBanner(const char* text) {
-    EXPECT_TRUE(stands([=] { drawBoardLabel(text, 193, 30); })) << text;
+    EXPECT_EQ(script::windowTitle(), "Gloomdeck 1.2");
+    EXPECT_TRUE(prefs.scenarioOver);
+    const Button& continueButton = widget(id::continueGame);
+    EXPECT_EQ(continueButton.hidden, std::string(text) != "Campaign...");
+    EXPECT_TRUE(stands([&] {
+        drawBoardLabel(text, 193, 30);
+        if (!continueButton.hidden) drawButton(continueButton);
+    })) << text;
     const std::string score = "Score: " + std::to_string(ComputeScore());
     EXPECT_TRUE(stands([&] { drawBoardLabel(score, -13, 12); })) << score;
-    EXPECT_GT(game.turns, 0);
+}
+
+void expectStory(int campaign, int number) {
+    const std::string text(storyText(campaign, number));
+    EXPECT_TRUE(stands([&] { drawWrappedText(text, 16, 48, 26, 12); })) << text;
+    EXPECT_EQ(pixelAt(8, 41), 0xFF000000);
+}
+
+template <typename Record>
+void expectBytes(const std::string& file, const Record& record) {
+    ASSERT_EQ(file.size(), sizeof record);
+    EXPECT_EQ(std::memcmp(file.data(), &record, sizeof record), 0);
+}
+
+void goOn(Script& script, int way) {
+    if (way == 0) script.button(id::continueGame);
+    if (way > 0) script.key(way == 1 ? keycode::space : keycode::enter);
+}
+
+void playStages(Script& script, int campaign, int from) {
+    for (int stage = from; stage < campaignRow(campaign).scenarioCount; ++stage) {
+        script.check([=] { expectStory(campaign, stage + 1); })
+            .key(stage % 2 ? keycode::space : keycode::escape);
+        script.check([=] {
+            EXPECT_EQ(game.scenario, stageEntry(campaignRow(campaign), stage));
+            EXPECT_EQ(level(toughness), stage > from ? 35 : 0);
+            level(toughness) = 35;
+        });
+        const bool last = stage + 1 == campaignRow(campaign).scenarioCount;
+        script.hurry().clearBoard().check([=] { expectBanner(last ? "Campaign Won!" : "Campaign..."); });
+        if (last) script.key("H").key("q").check([] { expectBanner("Campaign Won!"); });
+        goOn(script, stage % 3);
+    }
 }
 
 }  // namespace
 
 TEST_F(PlayTest, ABoardIsClearedSavedAndFoundAgain) {
-    std::string saved;
     Script script;
     script.passTitle().screen("Select a game").key(keycode::right);
     for (int i = 0; i < 8; ++i) script.key(keycode::backspace);
-    script.type("Mo").button(id::done).clearBoard();
-    script.check([] { expectBanner("Congratulations!"); }).key(" ").check([] {
-        EXPECT_EQ(game.scenario, 0);
-        expectBanner("Congratulations!");
-    });
-    script.key("Q").key("n").screen("Gloomdeck 1.2").button(id::exit).key("y");
+    script.type("Mo").button(id::done).newest("Click on the bottom row of the map grid above.");
+    script.clearBoard().check([] { expectBanner("Congratulations!"); }).key(keycode::space);
+    script.check([] { expectBanner("Congratulations!"); });
+    script.button(id::exit).key("n").screen("Gloomdeck 1.2").button(id::exit).key("y");
     EXPECT_EQ(run(script), 0);
-    ASSERT_EQ(dataFile("DGDP.dat").size(), 484U);
-    EXPECT_EQ(std::memcmp(dataFile("DGDP.dat").data(), &game, 484), 0);
-    ASSERT_EQ(dataFile("DGDG.dat").size(), 52U);
-    EXPECT_EQ(dataFile("DGDG.dat").substr(12, 4), std::string("Mo\0\0", 4));
+    expectBytes(dataFile("DGDP.dat"), game);
+    expectBytes(dataFile("DGDG.dat"), prefs);
 
     Script again;
-    again.passTitle().screen("Gloomdeck 1.2").check([] { expectBanner("Congratulations!"); }).closeWindow();
-    EXPECT_EQ(restart(again), 0);
+    again.passTitle().check([] { expectBanner("Congratulations!"); }).button(id::replay).check([] {
+        EXPECT_EQ(game.turns, 0);
+        EXPECT_EQ(std::string(game.playerName.data()), "Mo");
+    });
+    EXPECT_EQ(restart(again.closeWindow()), 0);
+}
+
+TEST_F(PlayTest, ABoardInPlayIsTheSameInTheNextRun) {
+    GameState before{};
+    Prefs beforePrefs{};
+    Script script;
+    script.startScenario(2).check([] { giveHero(40); }).key("+").key("P").button(id::toggle + 6).key("q");
+    for (int i = 0; i < 10; ++i) script.click(boardCell(i % columnCount, bottomRow));
+    script.check([&] { before = game; }).closeWindow();
+    EXPECT_EQ(run(script), 0);
+    EXPECT_EQ(before.turns, 10);
+    beforePrefs = prefs;
+
+    Script again;
+    again.passTitle().screen("Gloomdeck 1.2").check([&] {
+        EXPECT_EQ(std::memcmp(&before, &game, sizeof game), 0);
+        EXPECT_EQ(std::memcmp(&beforePrefs, &prefs, sizeof prefs), 0);
+        EXPECT_EQ(prefs.GameSpeed, 3);
+        EXPECT_TRUE(prefs.skipText);
+    });
+    EXPECT_EQ(restart(again.closeWindow()), 0);
+    expectBytes(dataFile("DGDP.dat"), before);
+}
+
+TEST_F(PlayTest, EveryCampaignGoesFromItsFirstStoryToItsBanner) {
+    for (int campaign = 0; campaign < campaignCount; ++campaign) {
+        Script script;
+        script.passTitle();
+        for (int i = 0; i < campaign; ++i) script.key(keycode::down);
+        script.key(keycode::enter);
+        playStages(script, campaign, 0);
+        script.key(keycode::space).key("T").check([] {
+            expectBanner("Campaign Won!");
+            EXPECT_TRUE(game.campaignWon);
+        });
+        SCOPED_TRACE(campaignRow(campaign).name);
+        EXPECT_EQ(firstRun(script.closeWindow()), 0);
+    }
+}
+
+TEST_F(PlayTest, AClearedStageWaitsForItsContinueInTheNextRun) {
+    Script script;
+    script.passTitle().button(id::done).click({100, 100}).hurry().clearBoard().closeWindow();
+    EXPECT_EQ(run(script), 0);
+    Script again;
+    again.passTitle().check([] { expectBanner("Campaign..."); }).key("P").key("q");
+    again.check([] { expectBanner("Campaign..."); }).button(id::continueGame);
+    again.check([] { expectStory(0, 2); }).click({0, 0}).hurry().clearBoard();
+    EXPECT_EQ(restart(again.closeWindow()), 0);
+    EXPECT_TRUE(game.campaignWon);
+}
+
+TEST_F(PlayTest, AScenarioIsChosenByMouse) {
+    Script script;
+    script.passTitle().click({100, 16}).click({300, 76}).check(
+        [] { EXPECT_TRUE(stands([] { drawText(16, 40, "Bandit Camp", 0xFFFFFF00); })); });
+    script.button(id::done).check([] { EXPECT_EQ(game.scenario, 6); }).hurry().clearBoard();
+    script.check([] { expectBanner("Congratulations!"); }).button(id::newGame).screen("Select a game");
+    script.check([] { EXPECT_TRUE(stands([] { drawText(16, 40, "Bandit Camp", 0xFFFFFF00); })); });
+    EXPECT_EQ(run(script.button(id::selectionExit)), 0);
 }
 
 }  // namespace gloomdeck

@@ -137,6 +137,9 @@ Script& Script::until(std::function<bool()> done, Step step) {
     return then(Repeated{.done = std::move(done), .step = std::move(step), .left = 3000});
 }
 
+// The pointer comes in as well: a press is only told from an absent pointer once that was seen.
+Script& Script::passTitle() { return move({404, 484}).key(keycode::space); }
+
 Script& Script::startScenario(int listPosition) {
     passTitle().key(keycode::right);
     for (int i = 0; i < listPosition; ++i) key(keycode::down);
@@ -170,6 +173,7 @@ void finishScript() {
 
 int runProgram(const Script& script, const std::string& folder) {
     script::setFolder(folder);
+    script::setFramePeriod(1.0 / 60);
     startScript(script);
     int exitCode = -1;
     try {
@@ -193,6 +197,11 @@ void PlayTest::SetUp() {
 int PlayTest::restart(const Script& script) {
     resetProgram();
     return run(script);
+}
+
+int PlayTest::firstRun(const Script& script) {
+    for (const char* name : {"DGDP.dat", "DGDG.dat"}) std::filesystem::remove(folder + "/Data/" + name);
+    return restart(script);
 }
 
 void PlayTest::removePictures() { std::filesystem::remove_all(folder + "/gfx"); }

@@ -39,7 +39,7 @@ struct Script {
     Script& newest(std::string_view message);      ///< expects that newest message
     Script& then(Step step);
     Script& until(std::function<bool()> done, Step step);  ///< the step again and again
-    Script& passTitle() { return key(" "); }
+    Script& passTitle();
     Script& startScenario(int listPosition);  ///< from the title of a first start
     Script& hurry();                          ///< the next tile of every column is The End
     Script& clearBoard();                     ///< clicks tile after tile until the board is done
@@ -60,8 +60,9 @@ class PlayTest : public GameTest {
   protected:
     void SetUp() override;
     int run(const Script& script) { return runProgram(script, folder); }
-    int restart(const Script& script);  ///< the next run in the same folder, nothing left of the one before
-    void removePictures();              ///< for many quick runs
+    int restart(const Script& script);   ///< the next run in the same folder, nothing left of the one before
+    int firstRun(const Script& script);  ///< the next run, its Data folder empty again
+    void removePictures();               ///< for many quick runs
 
     /// The bytes of Data/name, empty when there is no such file.
     std::string dataFile(const std::string& name) const;
