@@ -37,6 +37,18 @@ Colour flatPixel(int number, int x, int y) {
     return corner && !isTerrain(number) ? transparentColour : flatColour(number);
 }
 
+std::array<Image, tile::count> paintedFlatTiles() {
+    std::array<Image, tile::count> images;
+    for (int number = 1; number <= tile::count; ++number) {
+        Image& image = images[static_cast<std::size_t>(number - 1)];
+        image = createImage(tile::size, tile::size);
+        for (int y = 0; y < tile::size; ++y)
+            for (int x = 0; x < tile::size; ++x)
+                image.pixels[static_cast<std::size_t>(y * tile::size + x)] = flatPixel(number, x, y);
+    }
+    return images;
+}
+
 void append(std::string& bytes, std::uint32_t value, int size) {
     for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFF));
 }
@@ -85,13 +97,8 @@ Colour flatColour(int tileNumber) {
 }
 
 void makeFlatTiles() {
-    for (int number = 1; number <= tile::count; ++number) {
-        Image& image = tileImages[static_cast<std::size_t>(number - 1)];
-        image = createImage(tile::size, tile::size);
-        for (int y = 0; y < tile::size; ++y)
-            for (int x = 0; x < tile::size; ++x)
-                image.pixels[static_cast<std::size_t>(y * tile::size + x)] = flatPixel(number, x, y);
-    }
+    static const auto flat = paintedFlatTiles();  // painted once for all tests
+    tileImages = flat;
     cellBackup = createImage(tile::size, tile::size);
 }
 
