@@ -89,6 +89,7 @@ std::string findFolder() {
 
 void open(int width, int height) {
     handleSignals();
+    programFolder();  // made before the handler below, it is still there when that saves
     std::atexit(noteProcessExit);
     if (openDesktopWindow({width, height}, lastTitle)) return;
     std::fputs("gloomdeck: no display to open a window on; try: xvfb-run -a ./play\n", stderr);
