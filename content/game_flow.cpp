@@ -27,7 +27,7 @@ namespace gloomdeck {
 namespace {
 
 void makeFreshHero() {
-    game.playerName = prefs.heroName;
+    storeName(game.playerName, nameText(prefs.heroName));
     for (int item = 0; item < itemCount; ++item) count(item) = 0;
     count(keys) = count(torches) = count(health) = 1;
     for (int skill = 0; skill < skillCount; ++skill) level(skill) = 0;
