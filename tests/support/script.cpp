@@ -171,6 +171,8 @@ void finishScript() {
     pending.clear();
 }
 
+void dropScript() { pending.clear(); }
+
 int runProgram(const Script& script, const std::string& folder) {
     script::setFolder(folder);
     script::setFramePeriod(1.0 / 60);

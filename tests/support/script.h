@@ -55,6 +55,9 @@ int runProgram(const Script& script, const std::string& folder);
 void startScript(const Script& script);
 void finishScript();
 
+/// The rest of the script is not played: the program must end by itself.
+void dropScript();
+
 /// The whole program under test: it starts in a folder of its own.
 class PlayTest : public GameTest {
   protected:
