@@ -19,7 +19,7 @@ namespace gloomdeck {
 namespace {
 
 Button pressedButtonCopy;
-bool ignoreHold = false;  // the button is still down from another screen
+bool ignoreHold = false;  // the button is still down from another screen, or from before the pointer left
 
 bool buttonIsHeld() { return inputQueue().handedDown; }
 
@@ -124,17 +124,19 @@ void removePressedLook() {
 
 int handleMouse() {
     const MouseState mouse = getMouse();
-    const bool down = (mouse.buttons & 1) != 0;  // also outside the window, where nothing is hit
-    ignoreHold = ignoreHold && buttonIsHeld();
+    const bool outside = mouse.status != 0;
+    const bool down = !outside && (mouse.buttons & 1) != 0;
+    ignoreHold = buttonIsHeld() && (ignoreHold || outside);
     if (pressedWidget == notPressed) {
-        if (ignoreHold) return 0;
+        // A pointer outside presses nothing, so that the click with which it comes back is seen.
+        if (outside || ignoreHold) return 0;
         if (down)
             press(mouse);
         else
             hover(mouse);
         return 0;
     }
-    if (down && mouse.x != -1) return 0;
+    if (down) return 0;
     const int released = pressedWidget;
     pressedWidget = notPressed;
     return release(released, mouse);

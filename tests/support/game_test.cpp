@@ -15,6 +15,7 @@
 #include "prefs/saved_data.h"
 #include "shell/layout.h"
 #include "shell/lifecycle.h"
+#include "shell/mouse.h"
 #include "shell/palette.h"
 #include "shell/tile_set.h"
 
@@ -134,7 +135,7 @@ void resetProgram() {
     game = {};
     prefs = {};
     ui = {};
-    pressedWidget = notPressed;
+    restartPress();
     clickedButton = -1;
     clearMessages();
     layOutWidgets();
