@@ -1,0 +1,162 @@
+// The message bar, the game speed, waiting for the player, and the targeting modes.
+#include "platform/clock.h"
+#include "platform/frame.h"
+#include "platform/input.h"
+#include "shell/board_view.h"
+#include "shell/long_message.h"
+#include "shell/pacing.h"
+#include "shell/palette.h"
+#include "shell/target_mode.h"
+#include "shell/tiles.h"
+#include "tests/support/script.h"
+
+namespace gloomdeck {
+
+class MessagesTest : public GameTest {
+  protected:
+    // Seconds that the wait takes with the script as its player.
+    static double waited(const std::string& key, const Script& player) {
+        const double before = timer();
+        startScript(player);
+        waitForAck(key);
+        finishScript();
+        return timer() - before;
+    }
+};
+
+TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellow) {
+    for (const char* text : {"one", "two", " three ", "four", "five"}) ShowMessage(text, 0);
+    EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"five", "four", "three", "two"}));
+    EXPECT_TRUE(textStandsAt(16, 375, "five", colour::yellow));
+    EXPECT_TRUE(textStandsAt(16, 365, "four", colour::text));
+    EXPECT_TRUE(textStandsAt(16, 345, "two", colour::text));
+    ShowMessage("  " + std::string(60, 'x'), 0);
+    EXPECT_EQ(newestMessage(), std::string(47, 'x'));
+}
+
+TEST_F(MessagesTest, SpacesScrollTheBarAndAnEmptyTextOnlyRedrawsIt) {
+    const Image blank = screen();
+    ShowMessage("   ", 0);
+    EXPECT_EQ(screen().pixels, blank.pixels) << "nothing to scroll, nothing drawn";
+    ShowMessage("word", 0);
+    ShowMessage(" ", 0);
+    EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"", "word", "", ""}));
+    const Image bar = screen();
+    screen() = blank;
+    ShowMessage("", 0);
+    EXPECT_EQ(screen().pixels, bar.pixels);
+    EXPECT_EQ(messageBar.lines[1], "word");
+}
+
+TEST_F(MessagesTest, OnlyAMarkedTextIsTheTurnsMessage) {
+    ShowMessage("prompt", 0);
+    ShowMessage("", 1);
+    EXPECT_FALSE(ui.messagePosted);
+    ShowMessage("outcome", 1);
+    EXPECT_TRUE(ui.messagePosted);
+    ShowMessage("later prompt", 0);
+    EXPECT_TRUE(ui.messagePosted);
+}
+
+TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
+    struct Row {
+        int speed;
+        int n;
+        long milliseconds;
+    };
+    for (const Row& row : {Row{0, 20, 60}, Row{1, 20, 40}, Row{2, 20, 20}, Row{3, 5, 2}, Row{3, 7, 4},
+                           Row{4, 5, 2}, Row{4, 9, 3}, Row{5, 15, 2}, Row{5, 25, 2}, Row{5, 26, 3},
+                           Row{6, 5000, 0}, Row{99, 50, 0}, Row{-1, 10, 30}}) {
+        prefs.GameSpeed = row.speed;
+        const long before = script::sleptMilliseconds();
+        Delay(row.n);
+        EXPECT_EQ(script::sleptMilliseconds() - before, row.milliseconds) << row.speed << ": " << row.n;
+    }
+}
+
+TEST_F(MessagesTest, TheSpeedMovesWithinItsLimitsAndTellsOnlyWhenAsked) {
+    speedUp(1);
+    EXPECT_EQ(prefs.GameSpeed, 6);
+    EXPECT_EQ(newestMessage(), "Game speed at maximum.");
+    speedDown(1);
+    EXPECT_EQ(newestMessage(), "Game speed decreased to Ultra Fast.");
+    EXPECT_TRUE(ui.messagePosted);
+    for (int i = 0; i < 9; ++i) speedDown(0);
+    EXPECT_EQ(prefs.GameSpeed, 0);
+    EXPECT_EQ(newestMessage(), "Game speed decreased to Ultra Fast.");
+    speedDown(1);
+    EXPECT_EQ(newestMessage(), "Game speed at minimum.");
+    speedUp(1);
+    EXPECT_EQ(newestMessage(), "Game speed increased to Slow.");
+}
+
+TEST_F(MessagesTest, TheTitlesWaitEndsAtAnyKeyAClickOrAfterFifteenSeconds) {
+    EXPECT_LT(waited("", Script().key("x")), 1);
+    EXPECT_LT(waited("", Script().key("\xFFH")), 1);
+    EXPECT_NEAR(waited("", Script().move({5, 5}).wait(4).press({5, 5}).wait(20).release({5, 5})), 24, 1)
+        << "a press holds it until the release";
+    EXPECT_NEAR(waited("", Script().move({5, 5}).wait(3).move({9, 9}).wait(20)), 23, 1);
+    const double alone = waited("", Script());
+    EXPECT_GT(alone, 15.0);
+    EXPECT_LT(alone, 15.1);
+}
+
+TEST_F(MessagesTest, AStorysWaitEndsAtItsKeysOrAClickOnly) {
+    for (const char* key : {"k", "\r", "\x1B", " "})
+        EXPECT_GT(waited("k", Script().key("x").wait(99).key(key)), 99);
+    EXPECT_GT(waited("k", Script().wait(50).click({300, 300})), 50);
+    EXPECT_GT(waited("k", Script().press({300, 300}).wait(50).leave()), 50) << "leaving ends the press";
+}
+
+TEST_F(MessagesTest, ACloseRequestDuringAWaitIsRememberedAndTheSystemsEndStopsIt) {
+    waited("", Script().closeWindow());
+    EXPECT_EQ(readKey(), keycode::close);
+    resetInput();
+    waited(" ", Script().closeWindow().wait(5).closeWindow().key(" "));
+    EXPECT_EQ(readKey(), keycode::close);
+    EXPECT_EQ(readKey(), "");
+    waited("k", Script().press({300, 300}).then([](InputQueue& queue) { endRequested(queue); }));
+    EXPECT_EQ(readKey(), keycode::close);
+}
+
+TEST_F(MessagesTest, AStoryStandsOverTheBoardWhichComesBackExactly) {
+    drawBoard();
+    const Image before = screen();
+    startScript(Script()
+                    .check([] {
+                        EXPECT_TRUE(textStandsAt(16, 48, "A dark and stormy night in", colour::text));
+                        EXPECT_TRUE(textStandsAt(16, 60, "the dungeon.", colour::text));
+                        EXPECT_TRUE(textStandsAt(8, 246, " space or click to continue", colour::text));
+                        EXPECT_EQ(pixelAt(7, 39), colour::brown);
+                    })
+                    .key(" "));
+    showLongMessage("A dark and stormy night in the dungeon.");
+    finishScript();
+    EXPECT_EQ(screen().pixels, before.pixels);
+}
+
+TEST_F(MessagesTest, ModesPromptShowTheirIconAndCancelByName) {
+    struct Row {
+        int mode;
+        int icon;
+        const char* prompt;
+        const char* cancel;
+    };
+    for (const Row& row :
+         {Row{target::lightning, tile::lightning, "Choose a column of the map", "Canceled lightning mode."},
+          Row{target::bomb, tile::bomb, "Place the bomb on the map", "Canceled bomb mode."},
+          Row{target::hand, tile::hand, "Select a square on the map", "Canceled hand mode."}}) {
+        setTargetMode(row.mode);
+        EXPECT_EQ(newestMessage(), row.prompt + std::string(", <Esc> to cancel."));
+        EXPECT_EQ(pixelAt(216, 288), flatColour(row.icon));
+        cancelTargetMode();
+        EXPECT_EQ(newestMessage(), row.cancel);
+        EXPECT_EQ(pixelAt(216, 288), flatColour(tile::empty));
+    }
+    clearMessages();
+    cancelTargetMode();
+    EXPECT_EQ(newestMessage(), "");
+    EXPECT_FALSE(ui.messagePosted) << "none of this is the turn's message";
+}
+
+}  // namespace gloomdeck

@@ -1,0 +1,183 @@
+// Buttons, menus, the hit test and wrapped text.
+#include "platform/draw.h"
+#include "platform/font.h"
+#include "platform/frame.h"
+#include "rules/stats_column.h"
+#include "shell/board_view.h"
+#include "shell/hit_test.h"
+#include "shell/layout.h"
+#include "shell/menus.h"
+#include "shell/palette.h"
+#include "shell/panels.h"
+#include "shell/places.h"
+#include "tests/support/game_test.h"
+
+namespace gloomdeck {
+
+namespace {
+
+// The text of a row of character cells in the default colour; '?' is no glyph.
+std::string textRow(int y) {
+    std::string text;
+    for (int x = 0; x + glyphSize <= frameWidth; x += glyphSize) {
+        char found = '?';
+        for (char c = ' '; c <= '~'; ++c)
+            if (textStandsAt(x, y, std::string(1, c), colour::text)) found = c;
+        text += found;
+    }
+    return text.erase(text.find_last_not_of(' ') + 1);
+}
+
+// The first lines of a text as it is wrapped, joined by bars.
+std::string wrapped(const std::string& text, int width, int lines) {
+    clearScreen();
+    drawWrappedText(text, 0, 3, width, 10);
+    std::string all;
+    for (int i = 0; i < lines; ++i) all += textRow(3 + 10 * i) + "|";
+    return all;
+}
+
+Image cellImage(int col, int row) {
+    Image image = createImage(tile::size, tile::size);
+    const Rect r = boardGrid.cell(col, row);
+    getImage(screen(), r.x1, r.y1, r.x2, r.y2, image);
+    return image;
+}
+
+}  // namespace
+
+class WidgetsTest : public GameTest {};
+
+TEST_F(WidgetsTest, WidgetsOfAScreenLieInsideTheLayoutAndHitThemselvesAlone) {
+    for (const int screenId :
+         {screen_id::selection, screen_id::play, screen_id::preferences, screen_id::training})
+        for (const int widgetId : pressOrder(screenId)) {
+            const Button& b = widget(widgetId);
+            EXPECT_TRUE(b.x >= 0 && b.y >= 0 && b.x + b.width <= 400 && b.y + b.height <= 480) << widgetId;
+            if (b.hidden) continue;  // Continue lies over the board
+            for (const int other : pressOrder(screenId))
+                EXPECT_EQ(hitTest(widget(other), b.x + b.width - 1, b.y + b.height - 1, Phase::press) != 0,
+                          other == widgetId)
+                    << widgetId << " and " << other;
+        }
+}
+
+TEST_F(WidgetsTest, CaptionsStandOnEvenHalvesWithTheHotKeyInYellow) {
+    Button& exit = widget(id::exit);
+    drawButton(exit);
+    EXPECT_EQ(captionPlace(exit), (Point{354, 469}));
+    EXPECT_TRUE(textStandsAt(354, 469, "E", colour::yellow));
+    EXPECT_TRUE(textStandsAt(362, 469, "xit", colour::edge));
+    EXPECT_EQ(pixelAt(337, 464), colour::edge);
+    EXPECT_EQ(pixelAt(400, 480), colour::edge);
+    EXPECT_EQ(pixelAt(401, 481), colour::black) << "the shadow";
+    EXPECT_EQ(pixelAt(340, 478), colour::face);
+    eraseButton(exit);
+    EXPECT_EQ(pixelAt(401, 481), colour::panel);
+    EXPECT_EQ(hitTest(exit, 340, 470, Phase::press), 1) << "erased is not hidden";
+    exit.hidden = true;
+    for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
+        EXPECT_EQ(hitTest(exit, 340, 470, phase), 0);
+    showButton(exit, "");
+    EXPECT_EQ(exit.caption, "Exit");
+    showButton(exit, "Leave");
+    EXPECT_TRUE(!exit.hidden && exit.caption == "Leave");
+}
+
+TEST_F(WidgetsTest, TheSelectedMenuItemIsLightWithDarkText) {
+    drawTabs(0);
+    EXPECT_EQ(pixelAt(10, 22), colour::edge);
+    EXPECT_TRUE(textStandsAt(15, 13, "Campaign", colour::face));
+    EXPECT_EQ(pixelAt(90, 22), colour::face);
+    EXPECT_TRUE(textStandsAt(93, 13, "Scenario", colour::edge));
+    EXPECT_EQ(pixelAt(165, 25), colour::black) << "the shadow of the last item";
+    constexpr std::array<std::string_view, 3> items{"a", "b", "odd"};
+    drawHelpMenu(items, 2);
+    EXPECT_TRUE(textStandsAt(36, 57, "odd", colour::face)) << "half a pixel goes to the even place";
+    EXPECT_EQ(pixelAt(90, 68), colour::edge);
+}
+
+TEST_F(WidgetsTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
+    Button& grid = widget(id::board);
+    drawBoard();
+    EXPECT_EQ(hitTest(grid, 8 + 32 * 2 + 31, 40 + 32 * 3 + 31, Phase::press), 1);
+    EXPECT_EQ(grid.pressCol, 2);
+    EXPECT_EQ(grid.pressRow, 3);
+    EXPECT_NE(pixelAt(90, 150), flatColour(tile::empty)) << "the pressed look";
+    for (const Point in : {Point{72, 136}, Point{103, 167}})
+        EXPECT_EQ(hitTest(grid, in.x, in.y, Phase::release), 1);
+    for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
+    for (const Point out : {Point{7, 40}, Point{8, 39}, Point{232, 100}, Point{100, 264}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::press), 0);
+    EXPECT_EQ(grid.pressRow, 3) << "a miss notes nothing";
+    Button& done = widget(id::done);
+    done.caption = "Done";
+    drawButton(done);
+    hitTest(done, 168, 264, Phase::press);
+    EXPECT_EQ(pixelAt(215, 279), colour::pressedFace);
+    EXPECT_EQ(pixelAt(216, 280), colour::edge) << "the outline stays";
+    EXPECT_TRUE(textStandsAt(captionPlace(done).x, captionPlace(done).y, "Done", colour::pressedCaption));
+}
+
+TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
+    board(3, 3) = enc::Skeleton;
+    drawBoard();
+    fillBox(110, 140, 112, 142, 0xFF123456);  // something that no redraw of the cell would bring back
+    Button& grid = widget(id::board);
+    const Image before = cellImage(3, 3);
+    hitTest(grid, 104, 136, Phase::hover);
+    EXPECT_NE(cellImage(3, 3).pixels, before.pixels);
+    const Image glowing = cellImage(3, 3);
+    hitTest(grid, 135, 167, Phase::hover);
+    EXPECT_EQ(cellImage(3, 3).pixels, glowing.pixels) << "the same cell glows once";
+    ui.targetMode = target::bomb;
+    hitTest(grid, 136, 167, Phase::hover);
+    EXPECT_EQ(cellImage(3, 3).pixels, before.pixels);
+    EXPECT_EQ(pixelAt(136 + 16, 136 + 16), flatColour(tile::bomb)) << "the mode's icon on the target";
+    leaveHover(grid);
+    EXPECT_EQ(grid.hoverCol, -1);
+    EXPECT_EQ(pixelAt(152, 152), flatColour(tile::empty));
+    drawStatsCell(4);
+    const Colour plain = pixelAt(260, 40 + 32 * 4 + 16);
+    hitTest(widget(id::stats), 260, 40 + 32 * 4, Phase::hover);
+    EXPECT_NE(pixelAt(260, 40 + 32 * 4 + 16), plain);
+    hitTest(widget(id::stats), 260, 40 + 32 * 5, Phase::hover);
+    EXPECT_EQ(pixelAt(260, 40 + 32 * 4 + 16), plain);
+}
+
+TEST_F(WidgetsTest, WrappedTextBreaksBetweenWordsAndAtBackslashes) {
+    EXPECT_EQ(wrapped("one two three", 7, 3), "one two|three||");
+    EXPECT_EQ(wrapped("one two three", 6, 4), "one|two|three||");
+    EXPECT_EQ(wrapped("exact", 5, 2), "exact||");
+    EXPECT_EQ(wrapped("a\\b\\\\c", 9, 5), "a|b||c||");
+    EXPECT_EQ(wrapped("  lead and trail  ", 8, 3), "lead|and|trail|");
+    EXPECT_EQ(wrapped("", 5, 1), "|");
+    EXPECT_EQ(wrapped("unbreakable", 4, 4), "unbr|eaka|ble||") << "a word longer than the line is split";
+}
+
+TEST_F(WidgetsTest, BulletItemsIndentTheirContinuationUntilAForcedBreak) {
+    EXPECT_EQ(wrapped("* one two three four\\five six", 9, 5), "* one two|  three|  four|five six||");
+    EXPECT_EQ(wrapped("*item\\And on it goes", 9, 4), "*item|And on it|goes||");
+    EXPECT_EQ(wrapped("*item\\* other item here", 12, 3), "*item|* other item|  here|");
+}
+
+TEST_F(WidgetsTest, PanelsCoverTheBackgroundThatReachesTheFramesEdges) {
+    drawPanel(20, 30, 100, 50);
+    EXPECT_EQ(pixelAt(120, 80), colour::white);
+    EXPECT_EQ(pixelAt(119, 79), colour::panel);
+    EXPECT_EQ(pixelAt(407, 487), pixelAt(200, 200));
+    drawHeaderBar(50);
+    EXPECT_EQ(pixelAt(407, 50), colour::panel);
+    EXPECT_EQ(pixelAt(407, 51), colour::white);
+    centredText("odd", 100, 200);
+    EXPECT_TRUE(textStandsAt(88, 200, "odd", colour::text));
+    for (const int height : {13, 14}) {
+        drawBoardLabel("Label", 20, height);
+        EXPECT_TRUE(textStandsAt(16, height == 13 ? 62 : 72, "Label", colour::text));
+        EXPECT_EQ(pixelAt(231, 59 + height), colour::panel);
+        EXPECT_NE(pixelAt(231, 60 + height), colour::panel);
+    }
+}
+
+}  // namespace gloomdeck
