@@ -29,22 +29,13 @@ TEST_F(BoardTest, ARollSpansOneToNAndRollingNothingDrawsNothing) {
     EXPECT_EQ(Roll(7), 7);
 }
 
-TEST_F(BoardTest, HasSevenColumnsAndRows) {
-    EXPECT_TRUE(InBounds(0, 0) && InBounds(6, 6));
-    for (const int outside : {-1, 7}) EXPECT_FALSE(InBounds(outside, 3) || InBounds(3, outside));
-}
-
-TEST_F(BoardTest, OnlySevenFinishedColumnsFinishABoard) {
+TEST_F(BoardTest, OnlySevenFinishedColumnsFinishItAndOnlyTheLastStageWinsTheCampaign) {
     for (int col = 0; col < columnCount; ++col) {
         EXPECT_FALSE(AllColumnsFinished());
         column(col).finished = 1;
     }
     EXPECT_TRUE(AllColumnsFinished());
     EXPECT_EQ(game.campaignWon, 0U) << "a single scenario wins no campaign";
-}
-
-TEST_F(BoardTest, OnlyTheLastStageWinsTheCampaign) {
-    for (int col = 0; col < columnCount; ++col) column(col).finished = 1;
     game.campaign = 1;
     for (const int stage : {0, 2, 4, -1, std::numeric_limits<int>::max()}) {
         game.campaignStage = stage;
@@ -128,30 +119,16 @@ TEST_F(DeckTest, PastItsWeightedDrawsADeckTakesNoRoll) {
     EXPECT_TRUE(IsPastEnd(1, 6));
 }
 
-TEST_F(DeckTest, AShiftDealsWithTheNewCount) {
-    column(1).location = cellar;
-    column(1).drawn = 12;
-    board(1, 5) = enc::Chest;
-    board(1, 6) = enc::Door;
-    ShiftColumn(1);
-    EXPECT_EQ(column(1).drawn, 13);
-    EXPECT_EQ(board(1, 0), enc::TheEnd);
-    EXPECT_EQ(board(1, 6), enc::Chest);
-}
-
-TEST_F(EyeTest, HidesItselfAndAllBelowIt) {
+TEST_F(EyeTest, HidesItselfAndAllBelowItButNothingFromTheBottomRow) {
+    board(3, 6) = enc::HypnoEye;
+    EXPECT_EQ(FirstEyeRow(3), none);
+    EXPECT_FALSE(IsHiddenByEye(3, 6));
     board(3, 5) = enc::HypnoEye;
     for (int row = 0; row < rowCount; ++row) EXPECT_EQ(IsHiddenByEye(3, row), row >= 5) << row;
     board(3, 2) = enc::HypnoEye;
     EXPECT_EQ(FirstEyeRow(3), 2);
     EXPECT_FALSE(IsHiddenByEye(2, 6));
     turnsLeft(magicSight) = 1;
-    EXPECT_EQ(FirstEyeRow(3), none);
-    EXPECT_FALSE(IsHiddenByEye(3, 6));
-}
-
-TEST_F(EyeTest, InTheBottomRowItHidesNothing) {
-    board(3, 6) = enc::HypnoEye;
     EXPECT_EQ(FirstEyeRow(3), none);
     EXPECT_FALSE(IsHiddenByEye(3, 6));
 }

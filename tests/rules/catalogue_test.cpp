@@ -82,14 +82,6 @@ TEST_F(CatalogueTest, DamageSpansItsDice) {
     EXPECT_EQ(used.size(), MonsterTable.size());
 }
 
-TEST_F(CatalogueTest, OnlyTheKingLeavesSomethingAndItIsNoMonster) {
-    for (const EncounterType& row : EncounterTable) {
-        if (row.monster == none) continue;
-        const int becomes = monsterType(row.monster).becomes;
-        EXPECT_EQ(becomes, row.code == enc::SkeletonKing ? int{enc::Gold} : none) << row.name;
-    }
-}
-
 TEST_F(CatalogueTest, EverySkillHasARowOfItsOwnAndAPrice) {
     std::set<int> rows;
     for (const SkillType& skill : SkillTable) {
@@ -97,12 +89,6 @@ TEST_F(CatalogueTest, EverySkillHasARowOfItsOwnAndAPrice) {
         EXPECT_TRUE(skill.statsRow >= 0 && skill.statsRow < itemCount) << skill.name;
         EXPECT_GT(skill.price, 0);
     }
-}
-
-TEST_F(CatalogueTest, CodesOfNoTileLookAndActLikeEmpty) {
-    for (const int code : {-1, 24, 1 << 30, -(1 << 30)}) EXPECT_EQ(encounterType(code).code, enc::Empty);
-    for (int code = -1; code <= enc::count; ++code)
-        EXPECT_EQ(IsEmptyOrEnd(code), code == enc::Empty || code == enc::TheEnd) << code;
 }
 
 TEST_F(CatalogueTest, TheGoldPictureTellsWhatMayBeBought) {

@@ -63,28 +63,6 @@ TEST_F(CellViewTest, TheVanishingRunsAWhiteLineDownToTheLastRowButOne) {
     EXPECT_EQ(inCell(16, 31), flatColour(tile::demon));
 }
 
-TEST_F(CellViewTest, BlinkingEndsWithTheCellEmptyAndWithoutAPause) {
-    board(2, 3) = enc::Skeleton;
-    look = [](int pause) {
-        EXPECT_EQ(inCell(16, 16), flatColour(pause % 2 == 1 ? tile::shieldHit : tile::empty));
-        EXPECT_EQ(inCell(0, 0), flatColour(tile::cellar));
-    };
-    blinkCell(tile::shieldHit, 2, 3, 3, 20);
-    EXPECT_EQ(pauses, 5);
-    EXPECT_EQ(inCell(16, 16), flatColour(tile::empty));
-}
-
-TEST_F(CellViewTest, AFlashMayBeBlended) {
-    board(2, 3) = enc::Skeleton;
-    drawCellTile(2, 3);
-    const int before = static_cast<int>(inCell(16, 16) >> 16 & 0xFF);
-    const int laid = static_cast<int>(flatColour(tile::scorch) >> 16 & 0xFF);
-    flashTile(tile::scorch, 2, 3, 20, 128);
-    EXPECT_EQ(static_cast<int>(inCell(16, 16) >> 16 & 0xFF), before + (laid - before) * 128 / 256);
-    flashTile(tile::scorch, 2, 3, 20);
-    EXPECT_EQ(inCell(16, 16), flatColour(tile::scorch));
-}
-
 TEST_F(CellViewTest, AHiddenCellStaysAsItIsWhenRedrawn) {
     board(2, 1) = enc::HypnoEye;
     board(2, 3) = enc::Gold;

@@ -98,22 +98,14 @@ TEST_F(TorchTest, NeedAsManyAsAreTaken) {
     EXPECT_FALSE(ui.messagePosted);
 }
 
-TEST_F(DamageTest, HealthHasNoLowerBound) {
-    count(health) = 2;
-    rolls({{100, 1}});
-    EXPECT_EQ(TakeDamage(5, 1, 0), 1);
-    EXPECT_EQ(count(health), -3);
-    EXPECT_EQ(newestMessage(), "");
-}
-
-TEST_F(DamageTest, ARequiredHitNeedsHealthAboveItsThreshold) {
+TEST_F(DamageTest, ARequiredHitNeedsHealthAboveItsThresholdButMayTakeItBelow) {
     count(health) = 7;
     EXPECT_EQ(TakeDamage(5, 1, 7), 0);
     EXPECT_EQ(newestMessage(), "Need health above 7.");
     EXPECT_FALSE(ui.messagePosted);
     rolls({{100, 1}});
-    EXPECT_EQ(TakeDamage(5, 1, 6), 1);
-    EXPECT_EQ(count(health), 2);
+    EXPECT_EQ(TakeDamage(10, 1, 6), 1);
+    EXPECT_EQ(count(health), -3);
 }
 
 TEST_F(DamageTest, DeflectionLeavesAThird) {
@@ -144,15 +136,6 @@ TEST_F(DamageTest, DeflectionSaysNothingOfAFightThatIsRefused) {
     EXPECT_EQ(TakeDamage(9, 0, 0), 1);
     EXPECT_EQ(newestMessage(), "Deflection reduces damage.");
     EXPECT_EQ(count(health), -3);
-}
-
-TEST_F(DamageTest, DeflectionMayStopAHitOfOneWithoutAToughnessRoll) {
-    level(toughness) = 95;
-    turnsLeft(deflection) = 1;
-    EXPECT_EQ(TakeDamage(1, 0, 0), 1);
-    EXPECT_EQ(newestMessage(), "Deflection stops all damage.");
-    EXPECT_TRUE(ui.messagePosted);
-    EXPECT_EQ(count(health), 0);
 }
 
 TEST_F(DamageTest, ToughnessStopsATenthOfItsMarginAndOneHalvesToEven) {
@@ -219,13 +202,6 @@ TEST_F(TheftTest, DrawsUntilAnItemIsOwnedAndMayTakeASecondOfIt) {
     rolls({{9, 3}, {100, 34}});
     EXPECT_EQ(Steal(0), 1);
     EXPECT_EQ(count(gold), 2);
-}
-
-TEST_F(TheftTest, TheLastOfAnItemDrawsNoSecondTheft) {
-    count(health) = 1;
-    rolls({{9, 9}});
-    EXPECT_EQ(Steal(0), 1);
-    EXPECT_EQ(count(health), 0);
 }
 
 TEST_F(TheftTest, HealthCountsInTheTotalWithItsSign) {

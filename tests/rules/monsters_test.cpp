@@ -109,17 +109,6 @@ TEST_F(GhostTest, TakesTheTreasureAwayAndNothingThatBlocks) {
     EXPECT_EQ(column(2).drawn + column(3).drawn, 0);
 }
 
-TEST_F(GhostTest, UnderStasisItIsFoughtAfterItsSideRoll) {
-    turnsLeft(stasis) = 1;
-    count(health) = 9;
-    board(3, 6) = enc::Ghost;
-    rolls({rightFirst, {2, 1}, noToughness, deal});
-    EXPECT_EQ(Encounter(3, 6, 0), 1);
-    EXPECT_EQ(count(health), 8);
-    EXPECT_EQ(column(3).drawn, 1);
-    EXPECT_EQ(countOf(enc::Ghost), 0);
-}
-
 TEST_F(GhostTest, TheNeighboursColumnIsRedrawnBeforeItsOwn) {
     board(2, 0) = enc::HypnoEye;
     board(3, 0) = enc::HypnoEye;
@@ -165,16 +154,6 @@ TEST_F(FilthTest, WithoutRoomItIsClearedLikeAnyMonster) {
     board(3, 6) = enc::OozingFilth;
     rolls({{3, 1}, noToughness, {9, 9}, {100, 34}, deal});
     EXPECT_EQ(Encounter(3, 6, 0), 1);
-    EXPECT_EQ(countOf(enc::OozingFilth), 0);
-    EXPECT_EQ(column(3).drawn, 1);
-}
-
-TEST_F(FilthTest, StasisStopsTheAcidAndTheSpreading) {
-    turnsLeft(stasis) = 1;
-    board(3, 6) = enc::OozingFilth;
-    rolls({{3, 3}, noToughness, deal});
-    EXPECT_EQ(Encounter(3, 6, 0), 1);
-    EXPECT_EQ(count(health), 24);
     EXPECT_EQ(countOf(enc::OozingFilth), 0);
     EXPECT_EQ(column(3).drawn, 1);
 }
