@@ -108,7 +108,7 @@ TEST_F(EndingTest, ASignalAtAnyPollEndsWithAWholeMoveSaved) {
     EXPECT_EQ(run(watching(smallGame(), watched).closeWindow()), 0);
     ASSERT_GT(watched.pollsOfActions.size(), 100U);
     std::mt19937 random(1);
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 24; ++i) {
         const std::vector<long>& from = i % 3 ? watched.pollsOfActions : watched.otherPolls;
         const long end = from[random() % from.size()];
         firstRunEndedAt(end);

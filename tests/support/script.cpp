@@ -173,19 +173,23 @@ void finishScript() {
 
 void dropScript() { pending.clear(); }
 
-int runProgram(const Script& script, const std::string& folder) {
+int runToItsEnd(const std::string& folder) {
     script::setFolder(folder);
-    script::setFramePeriod(1.0 / 60);
-    startScript(script);
-    int exitCode = -1;
+    script::setFramePeriod(0.25);  // few pictures: copying them is what takes time here
     try {
         runGloomdeck();
     } catch (const script::ProgramEnded& end) {
-        exitCode = end.exitCode;
+        return end.exitCode;
     } catch (const script::RanDry& dry) {
         ADD_FAILURE() << dry.what();
         ui.lockDepth = 0;
     }
+    return -1;
+}
+
+int runProgram(const Script& script, const std::string& folder) {
+    startScript(script);
+    const int exitCode = runToItsEnd(folder);
     finishScript();
     return exitCode;
 }

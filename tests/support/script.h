@@ -51,6 +51,9 @@ struct Script {
 /// that runs dry, or that is not used up, fails the test (answer -1).
 int runProgram(const Script& script, const std::string& folder);
 
+/// The same with whatever feeders are set.
+int runToItsEnd(const std::string& folder);
+
 /// Lets the script play whatever runs next; the same failures are reported by finishScript.
 void startScript(const Script& script);
 void finishScript();
