@@ -159,32 +159,11 @@ TEST_F(MouseTest, MenusAnswerForANewItemAndGoBackToTheirOwnOtherwise) {
     }
 }
 
-TEST_F(MouseTest, StatsClicksTellWhatIsMissingOrCounted) {
-    count(keys) = 3;
-    for (const auto& [row, message] :
-         {std::pair{suns, "You have no Suns to use."}, std::pair{torches, "You have no Torches."},
-          std::pair{keys, "You have 3 Keys."}}) {
-        EXPECT_EQ(clickStats(row), 0);
-        EXPECT_EQ(newestMessage(), message);
-    }
-    count(hands) = count(lightningBolts) = 1;
-    EXPECT_EQ(clickStats(hands), 0);
-    EXPECT_EQ(ui.targetMode, target::hand);
-    EXPECT_EQ(clickStats(suns), 0);
-    EXPECT_EQ(newestMessage(), "Spell canceled.");
-    EXPECT_EQ(clickStats(lightningBolts), 0);
-    column(4).finished = 1;
-    EXPECT_EQ(clickBoard(4, 3), 0);
-    EXPECT_EQ(ui.targetMode, target::lightning) << "a finished column is no target";
-    EXPECT_EQ(count(lightningBolts), 1);
-}
-
 TEST_F(MouseTest, OnlyBottomTilesOfOpenColumnsAreMet) {
     board(2, 5) = board(2, 6) = board(3, 6) = enc::Door;
     count(keys) = 5;
     column(3).finished = 1;
-    EXPECT_EQ(clickBoard(2, 5), 0);
-    EXPECT_EQ(clickBoard(3, 6), 0);
+    EXPECT_EQ(clickBoard(2, 5) + clickBoard(3, 6), 0);
     EXPECT_EQ(count(keys), 5);
     seedRolls(1);
     EXPECT_EQ(clickBoard(2, 6), 1);
