@@ -1,12 +1,10 @@
 #include "content/game_selection.h"
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "content/scenarios.h"
 #include "content/selection_list.h"
-#include "platform/frame.h"
 #include "platform/input.h"
 #include "prefs/saved_data.h"
 #include "shell/layout.h"
@@ -32,10 +30,6 @@ bool nameStands(const std::string& name) { return textStandsAt(16, 178, name, co
 
 // The colour of the cursor behind a name of that length.
 Colour cursorBehind(int length) { return pixelAt(19 + 8 * length, 182); }
-
-bool cursorStandsBehind(int length) {
-    return cursorBehind(length) == colour::yellow || cursorBehind(length) == colour::face;
-}
 
 std::string bytesOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -65,11 +59,6 @@ class SelectionTest : public GameTest {
         runGameSelection();
         finishScript();
     }
-    static void leave(const Script& script) {
-        startScript(script);
-        EXPECT_THROW(runGameSelection(), script::ProgramEnded);
-        finishScript();
-    }
 
     std::string folder;
 };
@@ -78,8 +67,6 @@ TEST_F(SelectionTest, ItOpensAtTheLastChoice) {
     prefs.campaignChoice = 2;
     play(Script()
              .check([] {
-                 EXPECT_EQ(script::windowTitle(), "Select a game");
-                 EXPECT_EQ(prefs.currentScreen, screen_id::selection);
                  EXPECT_EQ(currentTab(), selection_tab::campaigns);
                  EXPECT_TRUE(headed("Thieves"));
                  EXPECT_TRUE(textStandsAt(16, 60, "Follow the thieves,", colour::text));
@@ -92,14 +79,7 @@ TEST_F(SelectionTest, ItOpensAtTheLastChoice) {
              .key("\r"));
     prefs.campaignChoice = none;
     prefs.scenarioChoice = 4;
-    play(Script()
-             .check([] {
-                 EXPECT_EQ(currentTab(), selection_tab::scenarios);
-                 EXPECT_TRUE(headed("Bandit Camp"));
-                 EXPECT_TRUE(textStandsAt(16, 92, "Hard", colour::text));
-                 EXPECT_EQ(pixelAt(228, 56), flatColour(tile::masterThief));
-             })
-             .key("\r"));
+    play(Script().check([] { EXPECT_TRUE(headed("Bandit Camp")); }).key("\r"));
     EXPECT_EQ(scenarioRow(game.scenario).name, "Bandit Camp");
 }
 
@@ -149,26 +129,18 @@ TEST_F(SelectionTest, TheMouseChoosesTabsAndRowsAndStartsTheGame) {
     EXPECT_EQ(game.campaign, 1);
 }
 
-TEST_F(SelectionTest, ANameIsTypedUpToSeventeenCharacters) {
+TEST_F(SelectionTest, ANameMayBeEmptyAndIsTypedUpToSeventeenCharacters) {
+    play(Script().type("\b\b\b\b\b\b\b\b\b\b").key("\r"));
+    EXPECT_EQ(prefs.heroName, (std::array<char, 21>{}));
     play(Script()
-             .type("\b\b\b\b\b\b\b\b\b\b")
-             .check([] { EXPECT_TRUE(cursorStandsBehind(0)); })
              .type("Sir Q of \"x<8\"")
              .key(keycode::up)
              .type("~!1 more")
-             .check([] {
-                 EXPECT_TRUE(nameStands("Sir Q of \"x<8\"~!1   "));
-                 EXPECT_TRUE(cursorStandsBehind(17));
-             })
+             .check([] { EXPECT_TRUE(nameStands("Sir Q of \"x<8\"~!1   ")); })
              .key("\r"));
     EXPECT_EQ(nameText(prefs.heroName), "Sir Q of \"x<8\"~!1");
     EXPECT_EQ(prefs.heroName, game.playerName);
     EXPECT_EQ(game.campaign, 2);
-}
-
-TEST_F(SelectionTest, AnEmptyNameIsAllowed) {
-    play(Script().type("\b\b\b\b\b\b\b\b\b").key("\r"));
-    EXPECT_EQ(prefs.heroName, (std::array<char, 21>{}));
 }
 
 TEST_F(SelectionTest, ARestoredNameOfTwentyCharactersIsShownWholeAndCannotGrow) {
@@ -180,24 +152,6 @@ TEST_F(SelectionTest, ARestoredNameOfTwentyCharactersIsShownWholeAndCannotGrow) 
              .check([] { EXPECT_TRUE(nameStands("abcdefghijklmnopx   ")); })
              .key("\r"));
     EXPECT_EQ(nameText(prefs.heroName), "abcdefghijklmnopx");
-}
-
-TEST_F(SelectionTest, LeavingSavesWithoutTheNewChoice) {
-    for (const Script& way : {Script().key("\x1B"), Script().closeWindow(), Script().click(exitButton)}) {
-        resetProgram();
-        openWindow(408, 488);
-        script::setFolder(folder);
-        ApplyDefaults();
-        Script script;
-        script.key("x").key(keycode::down).key(keycode::right);
-        for (const Script::Step& step : way.steps) script.then(step);
-        leave(script);
-        EXPECT_EQ(nameText(prefs.heroName), "Alistair");
-        EXPECT_EQ(prefs.campaignChoice, 0);
-        ASSERT_EQ(std::filesystem::file_size(folder + "/Data/DGDG.dat"), 52U);
-        EXPECT_EQ(bytesOf(folder + "/Data/DGDG.dat").substr(12, 9), std::string("Alistair\0", 9));
-        std::filesystem::remove(folder + "/Data/DGDG.dat");
-    }
 }
 
 TEST_F(SelectionTest, TheCursorBlinksTwiceASecond) {
@@ -216,25 +170,23 @@ TEST_F(SelectionTest, TheCursorBlinksTwiceASecond) {
     EXPECT_LE(changes, 9);
 }
 
-TEST_F(SelectionTest, DamagedPreferencesOpenAtTheFirstRowsAndAreSavedAsTheyWere) {
-    for (const int damaged : {-2147483647, -2, 7, 2147483647}) {
-        resetProgram();
-        openWindow(408, 488);
-        script::setFolder(folder);
-        prefs.campaignChoice = prefs.scenarioChoice = prefs.GameSpeed = damaged;
-        prefs.heroName.fill('\x93');
-        const Prefs before = prefs;
-        leave(Script()
-                  .check([] { EXPECT_TRUE(headed("Intro")); })
-                  .key(keycode::right)
-                  .check([] { EXPECT_TRUE(headed("Treasury")); })
-                  .key("x")
-                  .key("\x1B"));
-        EXPECT_EQ(prefs.campaignChoice, before.campaignChoice);
-        EXPECT_EQ(prefs.scenarioChoice, before.scenarioChoice);
-        EXPECT_EQ(prefs.heroName, before.heroName);
-        EXPECT_EQ(bytesOf(folder + "/Data/DGDG.dat").substr(12, 21), std::string(21, '\x93'));
-    }
+TEST_F(SelectionTest, LeavingSavesWithoutTheNewChoiceAlsoWhatIsDamaged) {
+    prefs.campaignChoice = -2;
+    prefs.scenarioChoice = prefs.GameSpeed = 2147483647;
+    prefs.heroName.fill('\x93');
+    std::string wanted(reinterpret_cast<const char*>(&prefs), sizeof prefs);
+    startScript(Script()
+                    .check([] { EXPECT_TRUE(headed("Intro")); })
+                    .key(keycode::right)
+                    .check([] { EXPECT_TRUE(headed("Treasury")); })
+                    .type("\b\b\bx")
+                    .press(startButton)
+                    .release(exitButton)
+                    .click(exitButton));
+    EXPECT_THROW(runGameSelection(), script::ProgramEnded);
+    finishScript();
+    wanted[4] = screen_id::selection;
+    EXPECT_EQ(bytesOf(folder + "/Data/DGDG.dat"), wanted) << "leaving keeps the choice before";
 }
 
 }  // namespace gloomdeck

@@ -1,7 +1,6 @@
 #include "prefs/prefs_screen.h"
 
 #include <cstring>
-#include <vector>
 
 #include "platform/input.h"
 #include "shell/layout.h"
@@ -74,11 +73,6 @@ TEST_F(PrefsScreenTest, EachRowFlipsItsOwnSwitchOfWhichTwoAreCrossed) {
             .check([=] { EXPECT_EQ(switchWord(), others) << row; });
     }
     play(script);
-    prefs.grief = prefs.spellsSkills = 0;
-    flipSwitch(3);
-    EXPECT_EQ(prefs.grief, 1);
-    flipSwitch(4);
-    EXPECT_EQ(prefs.spellsSkills, 1);
 }
 
 TEST_F(PrefsScreenTest, TheSpeedChangesByKeysAndButtonsWithinItsLimitsAndPostsNothing) {
@@ -108,23 +102,6 @@ TEST_F(PrefsScreenTest, ADamagedSpeedCountsAsTheNearestEndUntilItIsChanged) {
     prefs.GameSpeed = -2147483647;
     play(Script().check([] { EXPECT_TRUE(speedStands("Slowest")); }).key("+"));
     EXPECT_EQ(prefs.GameSpeed, 1);
-}
-
-TEST_F(PrefsScreenTest, ItIsLeftByDoneAndSixKeysAndNoOther) {
-    const Script restless = Script().key("x").key("P").press(toggle(0)).release(done);
-    std::vector<Script> visits{Script(restless).click(done), Script(restless).closeWindow()};
-    for (const std::string_view key :
-         {keycode::escape, std::string_view("Q"), std::string_view("q"), keycode::enter, keycode::space})
-        visits.push_back(Script(restless).key(key));
-    for (const Script& visit : visits) {
-        SCOPED_TRACE(&visit - visits.data());
-        startScript(visit);
-        RunPreferencesScreen();
-        finishScript();
-    }
-    EXPECT_EQ(switchWord(), 0U);
-    EXPECT_EQ(script::windowTitle(), "Preferences");
-    EXPECT_EQ(prefs.currentScreen, screen_id::preferences);
 }
 
 TEST_F(PrefsScreenTest, AKeyOfThePassInWhichAClickCompletesWaitsForTheNext) {

@@ -1,20 +1,17 @@
 #include "rules/training.h"
 
 #include <array>
-#include <vector>
 
 #include "platform/input.h"
 #include "rules/training_screen.h"
 #include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/tile_set.h"
+#include "shell/tiles.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
 
 namespace {
-
-constexpr Point done{209, 376};
 
 Point plus(int row) { return {32, 64 + 35 * row}; }
 
@@ -32,6 +29,7 @@ class TrainingTest : public GameTest {
     static void allow(int goldTile) { itemType(gold).tile = goldTile; }
 
     static void play(Script script) {
+        pointerMoved(inputQueue(), 1, 1);
         startScript(script.key("q"));
         TrainingScreen();
         finishScript();
@@ -70,12 +68,13 @@ TEST_F(TrainingTest, EveryRowSellsItsOwnGoodsForExactlyItsPrice) {
         game.inventory = {};
         game.skills = {};
         count(gold) = price - 1;
+        count(health) = -7;
         Script script;
         play(script.click(plus(row))
                  .check([&] {
                      EXPECT_TRUE(messageStands(" You need " + std::to_string(price) + " Gold."));
                      EXPECT_EQ(count(gold), price - 1);
-                     EXPECT_EQ(TotalStats(), price - 1);
+                     EXPECT_EQ(TotalStats(), price - 1 - 7);
                      count(gold) = price;
                  })
                  .click(plus(row))
@@ -84,8 +83,11 @@ TEST_F(TrainingTest, EveryRowSellsItsOwnGoodsForExactlyItsPrice) {
         for (int skill = 0; skill < skillCount; ++skill) EXPECT_EQ(level(skill), skill == row ? 5 : 0);
         EXPECT_EQ(count(keys), row == 6 ? 1 : 0);
         EXPECT_EQ(count(torches), row == 7 ? 1 : 0);
-        EXPECT_EQ(count(health), row == 8 ? 5 : 0);
+        EXPECT_EQ(count(health), row == 8 ? -2 : -7);
     }
+    EXPECT_EQ(itemType(health).highlightTurns, -1);
+    EXPECT_EQ(itemType(health).turnChange, 0);
+    EXPECT_EQ(skillType(lockpicking).highlightTurns, 0);
 }
 
 TEST_F(TrainingTest, ASkillIsTrainedUpToNinetyFiveAndNotAtAllAboveNinety) {
@@ -102,56 +104,6 @@ TEST_F(TrainingTest, ASkillIsTrainedUpToNinetyFiveAndNotAtAllAboveNinety) {
     game.skills = {};
     play(Script().click(plus(0)));
     EXPECT_EQ(level(lockpicking), 5) << "a later visit shows the button again";
-}
-
-TEST_F(TrainingTest, PurchasesTakeNoTurnAndLightUpNoRow) {
-    count(gold) = 100;
-    count(health) = -7;
-    Script script;
-    play(script.click(plus(8)).click(plus(0)).check(
-        [] { EXPECT_TRUE(textStandsAt(90, 344, "  (Health: -2)", colour::text)); }));
-    EXPECT_EQ(count(health), -2);
-    EXPECT_EQ(game.turns, 0);
-    EXPECT_EQ(itemType(health).highlightTurns, -1);
-    EXPECT_EQ(itemType(health).turnChange, 0);
-    EXPECT_EQ(skillType(lockpicking).highlightTurns, 0);
-}
-
-TEST_F(TrainingTest, ItIsLeftByDoneAndSixKeysAndNoOther) {
-    const Script restless = Script().key("x").key("T").press(plus(0)).release(done);
-    std::vector<Script> visits{Script(restless).click(done), Script(restless).closeWindow()};
-    for (const std::string_view key :
-         {keycode::escape, std::string_view("Q"), std::string_view("q"), keycode::enter, keycode::space})
-        visits.push_back(Script(restless).key(key));
-    for (const Script& visit : visits) {
-        SCOPED_TRACE(&visit - visits.data());
-        startScript(visit);
-        TrainingScreen();
-        finishScript();
-        EXPECT_EQ(readKey(), "");
-    }
-    EXPECT_EQ(script::windowTitle(), "Train or trade");
-    EXPECT_EQ(prefs.currentScreen, screen_id::training);
-    EXPECT_EQ(level(lockpicking), 0);
-}
-
-TEST_F(TrainingTest, TheButtonThatOpenedTheScreenBuysNothingWhenItIsLetGo) {
-    count(gold) = 1000;
-    pointerMoved(inputQueue(), plus(0).x, plus(0).y);
-    buttonChanged(inputQueue(), true);
-    getMouse();
-    play(Script().release(plus(0)));
-    EXPECT_EQ(level(lockpicking), 0);
-}
-
-TEST_F(TrainingTest, ItWorksWithoutPicturesAndWithDamagedCounts) {
-    freeTiles();
-    game.skills.fill(2147483647);
-    game.inventory.fill(2147483647);
-    Script script;
-    play(script.click(plus(0)).click(plus(6)));
-    EXPECT_EQ(level(lockpicking), 2147483647);
-    EXPECT_EQ(count(gold), 2147483637);
 }
 
 }  // namespace gloomdeck
