@@ -137,9 +137,6 @@ Script& Script::until(std::function<bool()> done, Step step) {
     return then(Repeated{.done = std::move(done), .step = std::move(step), .left = 3000});
 }
 
-// The pointer comes in as well: a press is only told from an absent pointer once that was seen.
-Script& Script::passTitle() { return move({404, 484}).key(keycode::space); }
-
 Script& Script::startScenario(int listPosition) {
     passTitle().key(keycode::right);
     for (int i = 0; i < listPosition; ++i) key(keycode::down);
