@@ -2,6 +2,7 @@
 // on rows 2 to 6, descenders take row 7; stems are two pixels wide, horizontals one; column 7 stays empty.
 #include "platform/font.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace gloomdeck {
@@ -876,9 +877,9 @@ constexpr std::array<Grid, characterCount> grids = {
 // clang-format on
 
 constexpr bool everyGridIsWhole() {
-    for (const Grid& grid : grids)
-        if (grid.size() != glyphSize * glyphSize || grid.find_first_not_of(".#") != Grid::npos) return false;
-    return true;
+    return std::ranges::all_of(grids, [](Grid grid) {
+        return grid.size() == glyphSize * glyphSize && grid.find_first_not_of(".#") == Grid::npos;
+    });
 }
 static_assert(everyGridIsWhole());
 

@@ -29,7 +29,7 @@ struct ScriptHost {
 
 ScriptHost state;
 
-bool feed(const script::Feeder& feeder) { return feeder && state.queue && feeder(*state.queue); }
+bool feed(const script::Feeder& feeder) { return feeder && state.queue != nullptr && feeder(*state.queue); }
 
 }  // namespace
 

@@ -37,7 +37,7 @@ void flipSwitch(int bit) {
 }
 
 std::string_view nameText(const std::array<char, 21>& name) {
-    const auto end = std::find(name.begin(), name.end() - 1, '\0');
+    const auto* const end = std::find(name.begin(), name.end() - 1, '\0');
     return {name.data(), static_cast<std::size_t>(end - name.begin())};
 }
 

@@ -45,13 +45,13 @@ void showTitle() {
 }
 
 void replayGame() {
-    if (!confirm("Replay current game?", isGameOver() ? 1 : 0)) return;
+    if (confirm("Replay current game?", isGameOver() ? 1 : 0) == 0) return;
     startNewGame();
     enterPlayScreen();
 }
 
 void openSelection() {
-    if (!confirm("Really quit game and return to main menu?", isGameOver() ? 1 : 0)) return;
+    if (confirm("Really quit game and return to main menu?", isGameOver() ? 1 : 0) == 0) return;
     runGameSelection();
     enterPlayScreen();
 }

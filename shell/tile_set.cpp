@@ -27,7 +27,8 @@ void cutStrip(const Strip& strip, Image& work) {
     std::fill(work.pixels.begin(), work.pixels.end(), transparentColour);
     loadBitmap(pictureFolder() + strip.file, work);
     for (int i = 0; i < strip.tiles; ++i) {
-        Image& image = tileImages[static_cast<std::size_t>(strip.firstTile - 1 + i)];
+        const int number = strip.firstTile + i;
+        Image& image = tileImages[static_cast<std::size_t>(number - 1)];
         image = createImage(tile::size, tile::size);
         const int left = tile::size * i;
         getImage(work, left, 0, left + tile::size - 1, tile::size - 1, image);
