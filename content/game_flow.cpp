@@ -36,7 +36,7 @@ void makeFreshHero() {
 }
 
 std::string titleLine() {
-    const std::string scenario(scenarioRow(game.scenario).name);
+    std::string scenario(scenarioRow(game.scenario).name);
     if (game.campaign == none) return scenario;
     const Campaign& campaign = campaignRow(game.campaign);
     return std::string(campaign.name) + " (" + std::to_string(std::int64_t{game.campaignStage} + 1) + "/" +

@@ -1,7 +1,6 @@
 #include "help/help_pages.h"
 #include "help/help_screen.h"
 #include "help/help_texts.h"
-#include "platform/input.h"
 #include "shell/layout.h"
 #include "shell/palette.h"
 #include "shell/tiles.h"
@@ -56,7 +55,6 @@ bool anyInk(const Rect& area) {
 }
 
 void play(Script script) {
-    pointerMoved(inputQueue(), 1, 1);
     startScript(script.key("q"));
     runHelpScreen();
     finishScript();

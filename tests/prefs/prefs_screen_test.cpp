@@ -36,7 +36,6 @@ bool speedStands(const std::string& name) {
 }
 
 void play(Script script) {
-    pointerMoved(inputQueue(), 1, 1);
     startScript(script.key("q"));
     RunPreferencesScreen();
     finishScript();

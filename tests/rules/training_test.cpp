@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "platform/input.h"
 #include "rules/training_screen.h"
 #include "shell/layout.h"
 #include "shell/palette.h"
@@ -29,7 +28,6 @@ class TrainingTest : public GameTest {
     static void allow(int goldTile) { itemType(gold).tile = goldTile; }
 
     static void play(Script script) {
-        pointerMoved(inputQueue(), 1, 1);
         startScript(script.key("q"));
         TrainingScreen();
         finishScript();
