@@ -52,9 +52,11 @@ void startGame(int scenario, std::uint64_t seed) {
 
 /// One game after the other: every scenario with one seed, then with the next.
 void startNextGame() {
-    static int number = 0;
-    startGame(number % scenarioTableSize, static_cast<std::uint64_t>(1 + number / scenarioTableSize));
-    ++number;
+    static int scenario = -1;
+    static std::uint64_t seed = 0;
+    scenario = (scenario + 1) % scenarioTableSize;
+    if (scenario == 0) ++seed;
+    startGame(scenario, seed);
 }
 
 /// Plays one move; false when there is none. The Space that stops the run is read before the move is played.
@@ -89,7 +91,7 @@ std::vector<GameState> positionsOfGames() {
 void copyFrame(benchmark::State& state) {
     const std::vector<Colour> from = screen().pixels;
     std::vector<Colour> to(from.size());
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         std::memcpy(to.data(), from.data(), from.size() * sizeof(Colour));
         benchmark::DoNotOptimize(to.data());
         benchmark::ClobberMemory();
@@ -99,7 +101,7 @@ void copyFrame(benchmark::State& state) {
 void assessAndChoose(benchmark::State& state) {
     static const std::vector<GameState> positions = positionsOfGames();
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         game = positions[next];
         next = next + 1 < positions.size() ? next + 1 : 0;
         AllColumnsFinished();
@@ -109,7 +111,7 @@ void assessAndChoose(benchmark::State& state) {
 
 void drawMove(benchmark::State& state) {
     startNextGame();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         letTimePass();
         if (playMove() && game.turns < longestGame) continue;
         state.PauseTiming();
@@ -152,18 +154,15 @@ void setUp(const char* folder) {
     prefs.goodStuff = prefs.fairlyEasy = prefs.obstacles = prefs.grief = prefs.spellsSkills = 1;
 }
 
-void registerBenchmark(const char* name, void (*function)(benchmark::State&)) {
-    benchmark::RegisterBenchmark(name, function)
-        ->Unit(benchmark::kMicrosecond)
-        ->Repetitions(9)
-        ->MinTime(0.2)
-        ->ReportAggregatesOnly();
+void measureWell(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Unit(benchmark::kMicrosecond)->Repetitions(9)->MinTime(0.2)->ReportAggregatesOnly();
 }
 
+BENCHMARK(copyFrame)->Name(copyName)->Apply(measureWell);
+BENCHMARK(assessAndChoose)->Name(choiceName)->Apply(measureWell);
+BENCHMARK(drawMove)->Name(moveName)->Apply(measureWell);
+
 int runBenchmarks() {
-    registerBenchmark(copyName, copyFrame);
-    registerBenchmark(choiceName, assessAndChoose);
-    registerBenchmark(moveName, drawMove);
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
     if (medians.times.size() < 3) return 0;  // a filter chose some of them
