@@ -1,21 +1,16 @@
-// The animations of single cells, and what is left of a cleared one.
+// The wipes of single cells, and what is left of a cleared one.
 #include "rules/cell_view.h"
 
 #include "rules/clear_cell.h"
-#include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/tiles.h"
-#include "tests/support/game_test.h"
+#include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
 
 namespace {
 
-constexpr Point corner = boardGrid.corner(2, 3);
+Colour inCell(int x, int y) { return pixelAt(boardGrid.corner(2, 3).x + x, boardGrid.corner(2, 3).y + y); }
 
-Colour inCell(int x, int y) { return pixelAt(corner.x + x, corner.y + y); }
-
-class CellViewTest : public GameTest {
+class CellViewTest : public RuleTest {
   protected:
     void SetUp() override {
         GameTest::SetUp();
@@ -30,13 +25,10 @@ class CellViewTest : public GameTest {
     int pauses = 0;
 };
 
-class ClearCellTest : public GameTest {};
-
 }  // namespace
 
 TEST_F(CellViewTest, TheRevealUncoversOneRowMoreAtEveryStep) {
-    board(2, 3) = enc::Cave;
-    drawCellTile(2, 3);
+    drawTileInCell(tile::cave, 2, 3);
     board(2, 3) = enc::Gold;
     look = [](int pause) {
         EXPECT_EQ(inCell(16, pause - 1), flatColour(tile::gold)) << pause;
@@ -48,8 +40,7 @@ TEST_F(CellViewTest, TheRevealUncoversOneRowMoreAtEveryStep) {
 }
 
 TEST_F(CellViewTest, TheVanishingRunsAWhiteLineDownToTheLastRowButOne) {
-    board(2, 3) = enc::Demon;
-    drawCellTile(2, 3);
+    drawTileInCell(tile::demon, 2, 3);
     look = [](int pause) {
         EXPECT_EQ(inCell(0, pause - 1), colour::white);
         EXPECT_EQ(inCell(31, pause - 1), colour::white);
@@ -63,23 +54,13 @@ TEST_F(CellViewTest, TheVanishingRunsAWhiteLineDownToTheLastRowButOne) {
     EXPECT_EQ(inCell(16, 31), flatColour(tile::demon));
 }
 
-TEST_F(CellViewTest, AHiddenCellStaysAsItIsWhenRedrawn) {
-    board(2, 1) = enc::HypnoEye;
-    board(2, 3) = enc::Gold;
-    redrawCell(2, 3);
-    EXPECT_NE(inCell(16, 16), flatColour(tile::gold));
-    turnsLeft(magicSight) = 1;
-    redrawCell(2, 3);
-    EXPECT_EQ(inCell(16, 16), flatColour(tile::gold));
-}
-
-TEST_F(ClearCellTest, ACaveTurnsIntoItsContentAndIsNeverEmpty) {
-    const enc::Code contents[] = {enc::Skeleton, enc::Skeleton,    enc::Ghost,        enc::Ghost,
-                                  enc::Chest,    enc::Backpack,    enc::Scroll,       enc::Meat,
-                                  enc::Chest,    enc::Empty,       enc::SkeletonKing, enc::OozingFilth,
-                                  enc::Demon,    enc::LockedChest, enc::Gold};
+TEST_F(CellViewTest, ACaveTurnsIntoItsContentAndIsNeverEmpty) {
+    prefs.GameSpeed = speedCount - 1;
     int roll = 0;
-    for (const enc::Code content : contents) {
+    for (const enc::Code content :
+         {enc::Skeleton, enc::Skeleton, enc::Ghost, enc::Ghost, enc::Chest, enc::Backpack, enc::Scroll,
+          enc::Meat, enc::Chest, enc::Empty, enc::SkeletonKing, enc::OozingFilth, enc::Demon,
+          enc::LockedChest, enc::Gold}) {
         board(1, 4) = enc::Cave;
         rolls({{15, ++roll}});
         EXPECT_FALSE(ClearCell(1, 4));
@@ -87,30 +68,24 @@ TEST_F(ClearCellTest, ACaveTurnsIntoItsContentAndIsNeverEmpty) {
     }
 }
 
-TEST_F(ClearCellTest, EveryOtherTypeEndsEmptyUnlessItLeavesSomething) {
+TEST_F(CellViewTest, OnlyTheKingLeavesSomethingAndItIsRevealedUnlessHidden) {
+    board(1, 3) = enc::HypnoEye;
     for (int code = 0; code < enc::count; ++code) {
         if (code == enc::Cave) continue;
         board(1, 4) = code;
-        const bool emptied = ClearCell(1, 4);
-        EXPECT_EQ(emptied, code != enc::TheEnd && code != enc::SkeletonKing) << code;
-        EXPECT_EQ(board(1, 4) == enc::Empty, emptied) << code;
+        EXPECT_EQ(ClearCell(1, 4), code != enc::TheEnd && code != enc::SkeletonKing) << code;
+        EXPECT_EQ(board(1, 4), code == enc::TheEnd         ? code
+                               : code == enc::SkeletonKing ? enc::Gold
+                                                           : enc::Empty);
     }
-}
-
-TEST_F(ClearCellTest, RemainsAreRevealedUnlessHidden) {
-    prefs.GameSpeed = 2;
-    for (const enc::Code code : {enc::TheEnd, enc::Door}) {
-        board(1, 4) = code;
-        ClearCell(1, 4);
-        EXPECT_EQ(script::sleptMilliseconds(), 0);
-    }
-    board(1, 4) = enc::SkeletonKing;
-    board(1, 3) = enc::HypnoEye;
-    EXPECT_FALSE(ClearCell(1, 4));
-    EXPECT_EQ(script::sleptMilliseconds(), 0);
     board(1, 3) = enc::Empty;
+    for (const enc::Code unrevealed : {enc::TheEnd, enc::Door}) {
+        board(1, 4) = unrevealed;
+        ClearCell(1, 4);
+    }
+    EXPECT_EQ(script::sleptMilliseconds(), 0);
     board(1, 4) = enc::SkeletonKing;
-    EXPECT_FALSE(ClearCell(1, 4));
+    ClearCell(1, 4);
     EXPECT_EQ(script::sleptMilliseconds(), 31 * 30);
 }
 

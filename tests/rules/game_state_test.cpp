@@ -6,6 +6,7 @@
 #include <iterator>
 #include <limits>
 #include <random>
+#include <vector>
 
 #include "content/deal_board.h"
 #include "content/scenarios.h"
@@ -30,24 +31,13 @@ constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
 
 class RecordTest : public GameTest {
   protected:
-    static std::string savedGame() {
-        const std::string folder = makeProgramFolder();
-        script::setFolder(folder);
-        SaveData();
-        std::ifstream file(folder + "/Data/DGDP.dat", std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-};
-
-class DamagedRecordTest : public GameTest {
-  protected:
     static void drawEverything() {
         drawBoard();
         DrawDayDisplay();
         ShowScoreLine();
-        for (int item = 0; item < itemCount; ++item) AddItem(item, 0);
+        for (int item = 0; item < itemCount; ++item) drawItemCount(item, 1);
         for (int skill = 0; skill < skillCount; ++skill) drawSkill(skill, 1);
-        for (int power = 0; power < powerCount; ++power) ChangePower(power, 0, 1, 1);
+        for (int power = 0; power < powerCount; ++power) drawPower(power, true);
     }
 
     static void meetEverything() {
@@ -60,13 +50,15 @@ class DamagedRecordTest : public GameTest {
     }
 };
 
-class PlayedRecordTest : public GameTest {};
-
-std::int32_t numberAt(const std::string& bytes, std::size_t offset) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < 4; ++i)
-        value |= std::uint32_t{static_cast<std::uint8_t>(bytes.at(offset + i))} << (8 * i);
-    return static_cast<std::int32_t>(value);
+std::vector<int> numbersAt(const std::string& bytes, const std::vector<std::size_t>& offsets) {
+    std::vector<int> numbers;
+    for (const std::size_t offset : offsets) {
+        std::uint32_t value = 0;
+        for (std::size_t i = 0; i < 4; ++i)
+            value |= std::uint32_t{static_cast<std::uint8_t>(bytes.at(offset + i))} << (8 * i);
+        numbers.push_back(static_cast<int>(value));
+    }
+    return numbers;
 }
 
 int totalDrawn() {
@@ -106,27 +98,21 @@ TEST_F(RecordTest, StandsInItsFileByteForByte) {
     game.scenario = 6;
     game.campaignWon = 1;
     game.turns = 1000;
-    game.scoreStanding = none;
-    const std::string bytes = savedGame();
+    game.scoreStanding = -2;
+    const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
+    SaveData();
+    std::ifstream file(folder + "/Data/DGDP.dat", std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(file), {});
     ASSERT_EQ(bytes.size(), 484U);
     EXPECT_EQ(bytes.substr(0, 24), std::string("Alistair") + std::string(16, '\0'));
-    EXPECT_EQ(numberAt(bytes, 24), 8);
-    EXPECT_EQ(numberAt(bytes, 24 + 6 * 44 + 4), -2);
-    EXPECT_EQ(numberAt(bytes, 24 + 6 * 44 + 8 + 6 * 4), 23);
-    EXPECT_EQ(numberAt(bytes, 24 + 2 * 44 + 40), 1);
-    EXPECT_EQ(bytes.substr(376, 4), "\x04\x03\x02\x01");
-    EXPECT_EQ(numberAt(bytes, 376 + 8 * 4), -5);
-    EXPECT_EQ(numberAt(bytes, 416 + 5 * 4), 95);
-    EXPECT_EQ(numberAt(bytes, 444 + 2 * 4), 7);
-    EXPECT_EQ(numberAt(bytes, 460), -1);
-    EXPECT_EQ(numberAt(bytes, 464), 3);
-    EXPECT_EQ(numberAt(bytes, 468), 6);
-    EXPECT_EQ(numberAt(bytes, 472), 1);
-    EXPECT_EQ(numberAt(bytes, 476), 1000);
-    EXPECT_EQ(numberAt(bytes, 480), -1);
+    EXPECT_EQ(numbersAt(bytes, {24, 24 + 6 * 44 + 4, 24 + 6 * 44 + 32, 24 + 2 * 44 + 40, 376, 408}),
+              (std::vector{8, -2, 23, 1, 0x01020304, -5}));
+    EXPECT_EQ(numbersAt(bytes, {436, 452, 460, 464, 468, 472, 476, 480}),
+              (std::vector{95, 7, -1, 3, 6, 1, 1000, -2}));
 }
 
-TEST_F(DamagedRecordTest, NumbersAtTheirLimitsNeitherStopNorBreakTheGame) {
+TEST_F(RecordTest, NumbersAtTheirLimitsNeitherStopNorBreakTheGame) {
     seedRolls(3);
     for (const std::int32_t value : {most, least, -1, 24}) {
         for (int col = 0; col < columnCount; ++col) {
@@ -143,7 +129,7 @@ TEST_F(DamagedRecordTest, NumbersAtTheirLimitsNeitherStopNorBreakTheGame) {
     }
 }
 
-TEST_F(DamagedRecordTest, RandomBytesArePlayedOnAndTheReservedSlotsStay) {
+TEST_F(RecordTest, RandomBytesArePlayedOnAndTheReservedSlotsStay) {
     std::mt19937 bytes(11);
     seedRolls(4);
     for (int record = 0; record < 16; ++record) {
@@ -171,7 +157,7 @@ TEST_F(DamagedRecordTest, RandomBytesArePlayedOnAndTheReservedSlotsStay) {
     }
 }
 
-TEST_F(PlayedRecordTest, RandomMovesKeepItSound) {
+TEST_F(RecordTest, RandomMovesKeepItSound) {
     for (const int scenario : {0, 4, 6}) {  // Treasury, Magic Portals, Bandit Camp
         SCOPED_TRACE(scenarioRow(scenario).name);
         seedRolls(static_cast<std::uint64_t>(scenario) + 1);

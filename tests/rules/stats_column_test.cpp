@@ -61,21 +61,11 @@ TEST_F(StatsColumnTest, ASkillStandsBesideItsItem) {
     EXPECT_EQ(pixelAt(328, 106), flatColour(tile::thiefProtection));
     EXPECT_EQ(pixelAt(359, 106), flatColour(tile::thiefProtection));
     EXPECT_TRUE(textStandsAt(366, 116, "5%", colour::black));
-
-    level(thiefProtection) = 4;
-    drawSkill(thiefProtection, -1);
-    EXPECT_TRUE(textStandsAt(366, 116, "4%", colour::text));
-}
-
-TEST_F(StatsColumnTest, ASkillOfNothingIsAnEmptyBox) {
     level(toughness) = -7;
-    for (const Skill skill : {lockpicking, toughness}) {
-        drawSkill(skill, 0);
-        const int top = statsGrid.corner(0, skillType(skill).statsRow).y;
-        expectBox({326, top, 397, top + 31}, colour::slate);
-        EXPECT_EQ(pixelAt(344, top + 16), colour::slate);
-        EXPECT_TRUE(textStandsAt(366, top + 12, "   ", colour::text));
-    }
+    drawSkill(toughness, -2);
+    expectBox({326, 296, 397, 327}, colour::loss);
+    EXPECT_EQ(pixelAt(344, 312), colour::loss) << "nothing is shown of a skill of nothing";
+    EXPECT_TRUE(textStandsAt(366, 308, "   ", colour::text));
 }
 
 TEST_F(StatsColumnTest, APowersBarShrinksToTheRightByTwoPixelsATurn) {
@@ -113,12 +103,6 @@ TEST_F(StatsColumnTest, APowerThatIsOverLeavesItsWholeBoxPlain) {
     EXPECT_EQ(pixelAt(7, 280), colour::red);
     EXPECT_EQ(pixelAt(72, 280), colour::red);
     EXPECT_EQ(pixelAt(8, 312), colour::red);
-}
-
-TEST_F(StatsColumnTest, AnIconStandsOnItsOwnCell) {
-    drawStatsCell(torches);
-    expectBox({244, 72, 275, 103}, colour::face);
-    EXPECT_EQ(pixelAt(260, 88), flatColour(tile::torch));
 }
 
 }  // namespace gloomdeck
