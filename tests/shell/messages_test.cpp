@@ -1,4 +1,4 @@
-// The message bar, the game speed, waiting for the player, and the targeting modes.
+// The message bar, the game speed, and waiting for the player.
 #include "platform/clock.h"
 #include "platform/frame.h"
 #include "platform/input.h"
@@ -6,8 +6,6 @@
 #include "shell/long_message.h"
 #include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/target_mode.h"
-#include "shell/tiles.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -48,15 +46,6 @@ TEST_F(MessagesTest, SpacesScrollTheBarAndAnEmptyTextOnlyRedrawsIt) {
     EXPECT_EQ(messageBar.lines[1], "word");
 }
 
-TEST_F(MessagesTest, OnlyAMarkedTextIsTheTurnsMessage) {
-    ShowMessage("prompt", 0);
-    ShowMessage("", 1);
-    EXPECT_FALSE(ui.messagePosted);
-    ShowMessage("outcome", 1);
-    ShowMessage("later prompt", 0);
-    EXPECT_TRUE(ui.messagePosted);
-}
-
 TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
     struct Row {
         int speed;
@@ -73,9 +62,12 @@ TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
     }
 }
 
-TEST_F(MessagesTest, TheSpeedTellsItsNewNameOnlyWhenAsked) {
+TEST_F(MessagesTest, OnlyAMarkedTextIsTheTurnsMessageAndTheSpeedTellsWhenAsked) {
+    ShowMessage("prompt", 0);
+    ShowMessage("", 1);
     speedDown(0);
-    EXPECT_EQ(newestMessage(), "");
+    EXPECT_EQ(newestMessage(), "prompt");
+    EXPECT_FALSE(ui.messagePosted);
     speedDown(1);
     EXPECT_EQ(newestMessage(), "Game speed decreased to Very Fast.");
     EXPECT_TRUE(ui.messagePosted);
@@ -117,30 +109,6 @@ TEST_F(MessagesTest, AStoryStandsOverTheBoardWhichComesBackExactly) {
     showLongMessage("A dark and stormy night in the dungeon.");
     finishScript();
     EXPECT_EQ(screen().pixels, before.pixels);
-}
-
-TEST_F(MessagesTest, ModesPromptShowTheirIconAndCancelByName) {
-    struct Row {
-        int mode;
-        int icon;
-        const char* prompt;
-        const char* cancel;
-    };
-    for (const Row& row :
-         {Row{target::lightning, tile::lightning, "Choose a column of the map", "Canceled lightning mode."},
-          Row{target::bomb, tile::bomb, "Place the bomb on the map", "Canceled bomb mode."},
-          Row{target::hand, tile::hand, "Select a square on the map", "Canceled hand mode."}}) {
-        setTargetMode(row.mode);
-        EXPECT_EQ(newestMessage(), row.prompt + std::string(", <Esc> to cancel."));
-        EXPECT_EQ(pixelAt(216, 288), flatColour(row.icon));
-        cancelTargetMode();
-        EXPECT_EQ(newestMessage(), row.cancel);
-        EXPECT_EQ(pixelAt(216, 288), flatColour(tile::empty));
-    }
-    clearMessages();
-    cancelTargetMode();
-    EXPECT_EQ(newestMessage(), "");
-    EXPECT_FALSE(ui.messagePosted) << "none of this is the turn's message";
 }
 
 }  // namespace gloomdeck

@@ -34,27 +34,21 @@ class MouseTest : public GameTest {
     static bool describes(std::string_view text) { return textStandsAt(15, 406, text, colour::text); }
 };
 
-TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnIt) {
-    press(widgetCentre(id::help));
-    EXPECT_EQ(pressedWidget, id::help);
-    EXPECT_EQ(release(widgetCentre(id::help)), 1);
-    EXPECT_EQ(clickedButton, id::help);
-    EXPECT_EQ(pressedWidget, notPressed);
-}
-
-TEST_F(MouseTest, ReleasedElsewhereAButtonLooksAsBeforeAndClicksNothing) {
+TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnItAndElseLooksAsBefore) {
     for (const int button : {id::help, id::prefs}) drawButton(widget(button));
     const Image before = screen();
     press(widgetCentre(id::help));
     EXPECT_NE(screen().pixels, before.pixels);
+    EXPECT_EQ(release(widgetCentre(id::help)), 1);
+    EXPECT_EQ(clickedButton, id::help);
+    press(widgetCentre(id::help));
     EXPECT_EQ(release(widgetCentre(id::prefs)), 0);
-    EXPECT_EQ(screen().pixels, before.pixels);
+    EXPECT_EQ(clickedButton, -1);
     press(widgetCentre(id::help));
     EXPECT_EQ(leave(), 0);
     EXPECT_EQ(screen().pixels, before.pixels);
-    EXPECT_EQ(clickedButton, -1);
     release({300, 20});
-    EXPECT_EQ(press({300, 20}), 0);
+    press({300, 20});
     EXPECT_EQ(pressedWidget, pressedNothing);
     EXPECT_EQ(release(widgetCentre(id::help)), 0) << "pressed on nothing";
 }
@@ -136,26 +130,22 @@ TEST_F(MouseTest, AfterTheScenarioNeitherGridReacts) {
 }
 
 TEST_F(MouseTest, MenusAnswerForANewItemAndGoBackToTheirOwnOtherwise) {
-    const auto pressed = [](int widgetId) {
-        return widgetId == id::tabs ? widget(widgetId).pressCol : widget(widgetId).pressRow;
-    };
     struct Row {
         int screen;
         int widgetId;
+        std::int32_t Button::*item;
         Point own;
         Point other;
     };
-    for (const Row& row : {Row{screen_id::selection, id::tabs, {10, 10}, {90, 10}},
-                           Row{screen_id::selection, id::list, {270, 12}, {270, 32}},
-                           Row{screen_id::help, id::helpMenu, {10, 22}, {10, 54}}}) {
+    for (const Row& row : {Row{screen_id::selection, id::tabs, &Button::pressCol, {10, 10}, {90, 10}},
+                           Row{screen_id::selection, id::list, &Button::pressRow, {270, 12}, {270, 32}},
+                           Row{screen_id::help, id::helpMenu, &Button::pressRow, {10, 22}, {10, 54}}}) {
         prefs.currentScreen = row.screen;
-        clickedButton = id::done;
         EXPECT_EQ(press(row.own) + release(row.own), 0) << row.widgetId;
         EXPECT_EQ(press(row.other) + release(row.other), 1);
-        EXPECT_GT(pressed(row.widgetId), 0);
+        EXPECT_GT(widget(row.widgetId).*row.item, 0);
         EXPECT_EQ(press(row.other) + release(row.own), 0);
-        EXPECT_EQ(pressed(row.widgetId), widget(row.widgetId).selected);
-        EXPECT_EQ(clickedButton, id::done) << "left alone";
+        EXPECT_EQ(widget(row.widgetId).*row.item, 0) << "back on its selected item";
     }
 }
 
@@ -173,31 +163,25 @@ TEST_F(MouseTest, OnlyBottomTilesOfOpenColumnsAreMet) {
 TEST_F(MouseTest, DescriptionsAddSkillsCoverWhatIsImpossibleAndKeepSecrets) {
     board(1, 1) = enc::Skeleton;
     board(1, 2) = enc::HypnoEye;
+    board(1, 3) = enc::Door;
     level(shieldBoost) = 7;
     describeBoardCell(1, 1);
-    const EncounterType& skeleton = encounterType(enc::Skeleton);
-    EXPECT_TRUE(textStandsAt(143, 406, std::to_string(skeleton.shieldChance + 7) + "%", colour::text));
-    EXPECT_TRUE(textStandsAt(175, 406, std::to_string(skeleton.sunChance) + "%", colour::text));
-    EXPECT_EQ(pixelAt(31, 432), flatColour(tile::skeleton));
+    const int chance = encounterType(enc::Skeleton).shieldChance + 7;
+    EXPECT_TRUE(textStandsAt(143, 406, std::to_string(chance) + "%", colour::text));
     EXPECT_EQ(pixelAt(287, 432), flatColour(tile::bomb));
     describeBoardCell(1, 0);
-    EXPECT_TRUE(describes("Empty"));
     EXPECT_EQ(pixelAt(287, 432), flatColour(tile::cover)) << "nothing to blow up";
     describeBoardCell(1, 2);
     EXPECT_TRUE(describes("Hypno Eye"));
     describeBoardCell(1, 3);
     EXPECT_TRUE(describes("This space is hidden by a Hypno Eye."));
     turnsLeft(magicSight) = 1;
-    board(1, 3) = enc::Door;
     describeBoardCell(1, 3);
     EXPECT_TRUE(describes("Door"));
     EXPECT_EQ(pixelAt(191, 432), flatColour(tile::cover)) << "no sun clears a door";
     column(1).drawn = 57;
     describeBoardCell(1, 3);
     EXPECT_TRUE(describes("You have finished this column."));
-    describeItem(health);
-    EXPECT_TRUE(describes("Health: "));
-    EXPECT_TRUE(textStandsAt(55, 426, itemType(health).description, colour::text));
 }
 
 TEST_F(MouseTest, AnEyeHidesWhatLiesBelowAndItsBeamEndsByTheRoll) {
@@ -216,7 +200,6 @@ TEST_F(MouseTest, AnEyeHidesWhatLiesBelowAndItsBeamEndsByTheRoll) {
         drawColumn(1);
         EXPECT_EQ(brownEnd(), end) << roll;
     }
-    EXPECT_EQ(pixelAt(45, 40 + 64 + 5), flatColour(tile::hypnoEye));
     for (const int row : {3, 4, 5, 6})
         EXPECT_EQ(pixelAt(43, 40 + 32 * row + 3), flatColour(tile::cellar)) << row;
     turnsLeft(magicSight) = 1;
@@ -240,10 +223,7 @@ TEST_F(MouseTest, CountersCoversAndNamesTellHowFarAColumnIs) {
     column(2).finished = 1;
     drawColumn(2);
     EXPECT_TRUE(textStandsAt(72, 28, "--", colour::text));
-    const std::string name = "Dungeon";
-    for (int i = 0; i < 7; ++i)
-        EXPECT_TRUE(textStandsAt(84, 56 + 10 * i, name.substr(static_cast<std::size_t>(i), 1), colour::text))
-            << i;
+    EXPECT_TRUE(textStandsAt(84, 56, "D", colour::text) && textStandsAt(84, 116, "n", colour::text));
     EXPECT_EQ(pixelAt(83, 55), colour::black) << "the outline of the D's corner";
 }
 

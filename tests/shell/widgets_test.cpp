@@ -2,7 +2,6 @@
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
-#include "rules/stats_column.h"
 #include "shell/board_view.h"
 #include "shell/hit_test.h"
 #include "shell/layout.h"
@@ -65,13 +64,10 @@ TEST_F(WidgetsTest, WidgetsOfAScreenLieInsideTheLayoutAndHitThemselvesAlone) {
 TEST_F(WidgetsTest, CaptionsStandOnEvenHalvesWithTheHotKeyInYellow) {
     Button& exit = widget(id::exit);
     drawButton(exit);
-    EXPECT_EQ(captionPlace(exit), (Point{354, 469}));
     EXPECT_TRUE(textStandsAt(354, 469, "E", colour::yellow));
     EXPECT_TRUE(textStandsAt(362, 469, "xit", colour::edge));
-    EXPECT_EQ(pixelAt(337, 464), colour::edge);
     EXPECT_EQ(pixelAt(400, 480), colour::edge);
     EXPECT_EQ(pixelAt(401, 481), colour::black) << "the shadow";
-    EXPECT_EQ(pixelAt(340, 478), colour::face);
     eraseButton(exit);
     EXPECT_EQ(pixelAt(401, 481), colour::panel);
     EXPECT_EQ(hitTest(exit, 340, 470, Phase::press), 1) << "erased is not hidden";
@@ -79,45 +75,32 @@ TEST_F(WidgetsTest, CaptionsStandOnEvenHalvesWithTheHotKeyInYellow) {
     for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
         EXPECT_EQ(hitTest(exit, 340, 470, phase), 0);
     showButton(exit, "");
-    EXPECT_EQ(exit.caption, "Exit");
-    showButton(exit, "Leave");
-    EXPECT_TRUE(!exit.hidden && exit.caption == "Leave");
+    EXPECT_TRUE(!exit.hidden && exit.caption == "Exit");
 }
 
 TEST_F(WidgetsTest, TheSelectedMenuItemIsLightWithDarkText) {
     drawTabs(0);
-    EXPECT_EQ(pixelAt(10, 22), colour::edge);
-    EXPECT_TRUE(textStandsAt(15, 13, "Campaign", colour::face));
-    EXPECT_EQ(pixelAt(90, 22), colour::face);
-    EXPECT_TRUE(textStandsAt(93, 13, "Scenario", colour::edge));
-    EXPECT_EQ(pixelAt(165, 25), colour::black) << "the shadow of the last item";
+    EXPECT_TRUE(pixelAt(10, 22) == colour::edge && textStandsAt(15, 13, "Campaign", colour::face));
+    EXPECT_TRUE(pixelAt(90, 22) == colour::face && textStandsAt(93, 13, "Scenario", colour::edge));
     constexpr std::array<std::string_view, 3> items{"a", "b", "odd"};
     drawHelpMenu(items, 2);
     EXPECT_TRUE(textStandsAt(36, 57, "odd", colour::face)) << "half a pixel goes to the even place";
-    EXPECT_EQ(pixelAt(90, 68), colour::edge);
 }
 
 TEST_F(WidgetsTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
     Button& grid = widget(id::board);
-    drawBoard();
     EXPECT_EQ(hitTest(grid, 8 + 32 * 2 + 31, 40 + 32 * 3 + 31, Phase::press), 1);
-    EXPECT_EQ(grid.pressCol, 2);
-    EXPECT_EQ(grid.pressRow, 3);
-    EXPECT_NE(pixelAt(90, 150), flatColour(tile::empty)) << "the pressed look";
+    for (const Point out : {Point{7, 40}, Point{8, 39}, Point{232, 100}, Point{100, 264}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::press), 0);
+    EXPECT_TRUE(grid.pressCol == 2 && grid.pressRow == 3);
     for (const Point in : {Point{72, 136}, Point{103, 167}})
         EXPECT_EQ(hitTest(grid, in.x, in.y, Phase::release), 1);
     for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
         EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
-    for (const Point out : {Point{7, 40}, Point{8, 39}, Point{232, 100}, Point{100, 264}, Point{-1, -1}})
-        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::press), 0);
-    EXPECT_EQ(grid.pressRow, 3) << "a miss notes nothing";
-    Button& done = widget(id::done);
-    done.caption = "Done";
-    drawButton(done);
-    hitTest(done, 168, 264, Phase::press);
-    EXPECT_EQ(pixelAt(215, 279), colour::pressedFace);
-    EXPECT_EQ(pixelAt(216, 280), colour::edge) << "the outline stays";
-    EXPECT_TRUE(textStandsAt(captionPlace(done).x, captionPlace(done).y, "Done", colour::pressedCaption));
+    Button& help = widget(id::help);
+    hitTest(help, help.x, help.y, Phase::press);
+    EXPECT_EQ(pixelAt(help.x + 62, help.y + 15), colour::pressedFace);
+    EXPECT_NE(pixelAt(help.x + 63, help.y + 16), colour::pressedFace) << "the outline stays";
 }
 
 TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
@@ -127,29 +110,24 @@ TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
     Button& grid = widget(id::board);
     const Image before = cellImage(3, 3);
     hitTest(grid, 104, 136, Phase::hover);
-    EXPECT_NE(cellImage(3, 3).pixels, before.pixels);
     const Image glowing = cellImage(3, 3);
+    EXPECT_NE(glowing.pixels, before.pixels);
     hitTest(grid, 135, 167, Phase::hover);
     EXPECT_EQ(cellImage(3, 3).pixels, glowing.pixels) << "the same cell glows once";
     ui.targetMode = target::bomb;
     hitTest(grid, 136, 167, Phase::hover);
     EXPECT_EQ(cellImage(3, 3).pixels, before.pixels);
-    EXPECT_EQ(pixelAt(136 + 16, 136 + 16), flatColour(tile::bomb)) << "the mode's icon on the target";
+    EXPECT_EQ(pixelAt(152, 152), flatColour(tile::bomb)) << "the mode's icon on the target";
     leaveHover(grid);
     EXPECT_EQ(grid.hoverCol, -1);
     EXPECT_EQ(pixelAt(152, 152), flatColour(tile::empty));
-    drawStatsCell(4);
-    const Colour plain = pixelAt(260, 40 + 32 * 4 + 16);
-    hitTest(widget(id::stats), 260, 40 + 32 * 4, Phase::hover);
-    EXPECT_NE(pixelAt(260, 40 + 32 * 4 + 16), plain);
-    hitTest(widget(id::stats), 260, 40 + 32 * 5, Phase::hover);
-    EXPECT_EQ(pixelAt(260, 40 + 32 * 4 + 16), plain);
+    for (const int y : {168, 200}) hitTest(widget(id::stats), 260, y, Phase::hover);
+    EXPECT_EQ(pixelAt(260, 184), flatColour(tile::lightning)) << "the row that was left";
+    EXPECT_NE(pixelAt(260, 216), flatColour(tile::sun));
 }
 
 TEST_F(WidgetsTest, WrappedTextBreaksBetweenWordsAndAtBackslashes) {
     EXPECT_EQ(wrapped("one two three", 7, 3), "one two|three||");
-    EXPECT_EQ(wrapped("one two three", 6, 4), "one|two|three||");
-    EXPECT_EQ(wrapped("exact", 5, 2), "exact||");
     EXPECT_EQ(wrapped("a\\b\\\\c", 9, 5), "a|b||c||");
     EXPECT_EQ(wrapped("  lead and trail  ", 8, 3), "lead|and|trail|");
     EXPECT_EQ(wrapped("", 5, 1), "|");
@@ -158,7 +136,6 @@ TEST_F(WidgetsTest, WrappedTextBreaksBetweenWordsAndAtBackslashes) {
 
 TEST_F(WidgetsTest, BulletItemsIndentTheirContinuationUntilAForcedBreak) {
     EXPECT_EQ(wrapped("* one two three four\\five six", 9, 5), "* one two|  three|  four|five six||");
-    EXPECT_EQ(wrapped("*item\\And on it goes", 9, 4), "*item|And on it|goes||");
     EXPECT_EQ(wrapped("*item\\* other item here", 12, 3), "*item|* other item|  here|");
 }
 
