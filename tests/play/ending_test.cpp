@@ -10,8 +10,6 @@ namespace gloomdeck {
 
 namespace {
 
-std::string bytesOf(const GameState& state) { return {reinterpret_cast<const char*>(&state), sizeof state}; }
-
 // A game with a bit of everything: a story page, moves, spells, screens, questions.
 Script smallGame() {
     Script script;
@@ -20,23 +18,14 @@ Script smallGame() {
         level(lockpicking) = 30;
     });
     for (int col = 0; col < columnCount; ++col) script.click(boardCell(col, bottomRow));
-    script.click(statsCell(suns))
-        .click(statsCell(bombs))
-        .click(boardCell(3, 3))
-        .key("T")
-        .button(id::training);
+    script.click(statsCell(suns)).click(statsCell(bombs)).click(boardCell(3, 3)).key("T");
     script.key("q").click(statsCell(lightningBolts)).click(boardCell(0, 0)).click(statsCell(shields));
     script.key("H").key("q").key("P").button(id::toggle + 4).key("q").key("R").key("n");
     return script;
 }
 
-class EndingTest : public PlayTest {
+class EndingTest : public QuickPlayTest {
   protected:
-    void SetUp() override {
-        PlayTest::SetUp();
-        removePictures();
-    }
-
     void firstRunEndedAt(long poll) {
         for (const char* name : {"DGDP.dat", "DGDG.dat"}) std::filesystem::remove(folder + "/Data/" + name);
         resetProgram();
@@ -50,32 +39,32 @@ class EndingTest : public PlayTest {
     }
 
     void expectSaved() {
-        EXPECT_EQ(dataFile("DGDP.dat"), bytesOf(game));
+        EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
         EXPECT_EQ(dataFile("DGDG.dat").size(), sizeof prefs);
     }
 };
 
 // What the records are between moves, and which polls belong to an action.
 struct Watched {
-    std::set<std::string> wholeMoves{bytesOf(GameState{})};
+    std::set<std::string> wholeMoves{std::string(sizeof game, '\0')};  // no game yet
     std::vector<long> otherPolls;
     std::vector<long> pollsOfActions;
     long polls = 0;
 };
 
-Script watching(const Script& script, Watched& watched) {
+Script watching(const Script& plain, Watched& watched) {
     const auto note = [&] {
-        if (game.scoreStanding == none) watched.wholeMoves.insert(bytesOf(game));  // else it is being set up
+        if (game.scoreStanding == none) watched.wholeMoves.insert(gameBytes());  // else it is being set up
     };
     Script all;
-    for (const Script::Step& step : script.steps) all.check(note).then(step).check(note);
+    for (const Script::Step& step : plain.steps) all.check(note).then(step).check(note);
     return all;
 }
 
 }  // namespace
 
 TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestion) {
-    const auto expectEnd = [this](Script script) { EXPECT_EQ(firstRun(script), 0), expectSaved(); };
+    const auto expectEnd = [this](const Script& whole) { EXPECT_EQ(firstRun(whole), 0), expectSaved(); };
     expectEnd(Script().closeWindow());  // at the title
     expectEnd(Script().passTitle().closeWindow());
     expectEnd(Script().startScenario(0).closeWindow());
@@ -85,7 +74,6 @@ TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestion) {
 }
 
 TEST_F(EndingTest, ACloseRequestIsRememberedUntilAStoryIsRead) {
-    Script script;
     script.passTitle().key(keycode::enter).closeWindow().key("z").key(keycode::space);
     EXPECT_EQ(run(script), 0);
     EXPECT_EQ(game.campaign, 0);
@@ -119,12 +107,11 @@ TEST_F(EndingTest, ASignalAtAnyPollEndsWithAWholeMoveSaved) {
 
 TEST_F(EndingTest, ALostWindowSavesOnceTheRecordsOfTheLastWholeMove) {
     std::string before;
-    Script script;
     script.startScenario(0).check([&] {
         giveHero(100);
         board(0, bottomRow) = enc::SkeletonKing;
     });
-    script.click(statsCell(shields)).check([&] { before = bytesOf(game); });
+    script.click(statsCell(shields)).check([&] { before = gameBytes(); });
     script.then([](InputQueue&) {
         script::feedWhenPausing([](InputQueue& queue) {
             if (queue.paused && count(health) < 100) script::loseWindow();
@@ -133,17 +120,16 @@ TEST_F(EndingTest, ALostWindowSavesOnceTheRecordsOfTheLastWholeMove) {
     });
     script.click(boardCell(0, bottomRow)).check([&] {
         EXPECT_EQ(dataFile("DGDP.dat"), before);
-        EXPECT_NE(bytesOf(game), before);
+        EXPECT_NE(gameBytes(), before);
     });
     EXPECT_EQ(run(script.closeWindow()), 0);
     EXPECT_EQ(dataFile("DGDP.dat"), before) << "saved a second time";
 }
 
 TEST_F(EndingTest, AWindowLostOnAStoryPageLeavesNoHalfStartedGame) {
-    Script script;
     script.passTitle().key(keycode::enter).check(script::loseWindow).key(keycode::space);
     EXPECT_EQ(run(script.closeWindow()), 0);
-    EXPECT_EQ(dataFile("DGDP.dat"), bytesOf(GameState{}));
+    EXPECT_EQ(dataFile("DGDP.dat"), std::string(sizeof game, '\0'));
     EXPECT_EQ(dataFile("DGDG.dat")[4], screen_id::selection);
 }
 

@@ -18,6 +18,9 @@ Point widgetCentre(int widgetId);
 /// A quick click, as hosts report it.
 void clickAt(InputQueue& queue, Point at);
 
+/// The game record as its file holds it.
+std::string gameBytes();
+
 /// Gives the hero so many of everything.
 void giveHero(int n);
 
@@ -75,6 +78,20 @@ class PlayTest : public GameTest {
     void writeDataFile(const std::string& name, const std::string& bytes) const;
 
     std::string folder;
+};
+
+/// The same without pictures, for many quick runs of one script.
+class QuickPlayTest : public PlayTest {
+  protected:
+    void SetUp() override {
+        PlayTest::SetUp();
+        removePictures();
+    }
+
+    /// The window is closed after the last step.
+    void finish() { EXPECT_EQ(firstRun(script.closeWindow()), 0); }
+
+    Script script;
 };
 
 }  // namespace gloomdeck
