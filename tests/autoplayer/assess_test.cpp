@@ -297,13 +297,4 @@ TEST_F(AutoplayerAssessment, AGhostIsTrappedByWallsAndPerhapsByWhatIsHidden) {
     EXPECT_EQ(TrapState(3, 3), 0) << "a cell past the end counts as open";
 }
 
-TEST_F(AutoplayerAssessment, NoTargetForGhostsMeansNoneBeforeTheEnds) {
-    for (int col = 0; col < columnCount; ++col) fillColumn(col, enc::Trap);
-    EXPECT_TRUE(NoGhostTarget());
-    board(6, 6) = enc::Empty;
-    EXPECT_FALSE(NoGhostTarget());
-    column(6).drawn = 60;
-    EXPECT_TRUE(NoGhostTarget());
-}
-
 }  // namespace gloomdeck

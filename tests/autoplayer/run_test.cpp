@@ -179,14 +179,6 @@ TEST_F(AutoplayerRun, TheBoardIsPlayedToItsEnd) {
     EXPECT_EQ(movesPlayed(), 0);
 }
 
-TEST_F(AutoplayerRun, WithoutGoodStuffTheEndIsNeverMet) {
-    allow({fairlyEasyBit, obstaclesBit, griefBit});
-    board(3, 6) = enc::TheEnd;
-    column(3).drawn = 59;
-    EXPECT_EQ(movesPlayed(), 0);
-    EXPECT_EQ(column(3).finished, 0U);
-}
-
 // A Ghost whose only ways out lie past the ends counts as free, stays, and cannot be fought.
 TEST_F(AutoplayerRun, ARefusedEncounterTakesATurnAndTheRunGoesOn) {
     allow({griefBit});
