@@ -1,11 +1,10 @@
-"""Starts X servers and the game on them, plays it through xdotool, and reads its pixels and its saved files."""
+"""Starts X servers and the game on them, plays it through xdotool, reads its pixels and its saved files."""
 
 import contextlib
 import os
 import pathlib
 import select
 import shutil
-import signal
 import struct
 import subprocess
 import sys
@@ -15,8 +14,8 @@ from types import SimpleNamespace
 
 BUILD, DIST = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
 TOOL = BUILD / "tests" / "gloomdeck_window_tool"
+LEAKS = pathlib.Path(__file__).with_name("leaks.txt")
 LIMIT = 20  # seconds that anything may take
-NOBODY = 65534
 
 WIDTH, HEIGHT = 408, 488
 SCREEN = 1600, 1200  # not room enough for the window to open at 2x
@@ -29,7 +28,6 @@ SUNS = 5  # of the items
 GAME_FILE = struct.Struct("<21s3x" + 8 * "44s" + "10i7i4i" + "3iI2i")
 COLUMN = struct.Struct("<2i8iI")
 PREFS_FILE = struct.Struct("<3i21sB2x3iI")
-assert GAME_FILE.size == 484 and PREFS_FILE.size == 52
 
 
 class Fault(Exception):
@@ -41,10 +39,10 @@ def check(right, what):
         raise Fault(what)
 
 
-def until(what, condition, limit=LIMIT):
-    end = time.monotonic() + limit
+def until(what, condition):
+    end = time.monotonic() + LIMIT
     while not condition():
-        check(time.monotonic() < end, f"{limit} seconds went by without {what}")
+        check(time.monotonic() < end, f"{LIMIT} seconds went by without {what}")
         time.sleep(0.01)
 
 
@@ -66,21 +64,16 @@ def read_saved(folder):
     prefs = PREFS_FILE.unpack((folder / "Data" / "DGDG.dat").read_bytes())
     columns = [COLUMN.unpack(each) for each in state[1:8]]
     return SimpleNamespace(
-        player=text(state[0]), drawn=[each[1] for each in columns], cells=[each[2:9] for each in columns],
-        finished=[each[10] & 1 for each in columns], items=state[9:19], campaign=state[30],
-        scenario=state[32], turns=state[34], speed=prefs[0], screen=prefs[1], hero=text(prefs[3]),
-        over=prefs[4] & 1, switches=prefs[8])
-
-
-def text(field):
-    return field.rstrip(b"\0").decode()
+        hero=state[0].rstrip(b"\0").decode(), drawn=[each[1] for each in columns],
+        cells=[each[2:9] for each in columns], finished=[each[10] for each in columns], items=state[9:19],
+        campaign=state[30], scenario=state[32], turns=state[34], speed=prefs[0], over=prefs[4], switches=prefs[8])
 
 
 def shown(frame, scale, size, part):
     """That part of a black window of that size with the frame in its middle."""
     left, top = (size[0] - scale * WIDTH) // 2, (size[1] - scale * HEIGHT) // 2
     x, y, width, height = part
-    rows = [window_row(frame, (row - top) // scale, scale, left, size[0]) for row in range(y, y + height)]
+    rows = (window_row(frame, (row - top) // scale, scale, left, size[0]) for row in range(y, y + height))
     return b"".join(row[3 * x:3 * (x + width)] for row in rows)
 
 
@@ -109,12 +102,13 @@ def game_folder(*parts):
 
 
 @contextlib.contextmanager
-def ending(process):
+def started(command, **options):
+    process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, **options)
     try:
         yield process
     finally:
         process.kill()
-        process.wait()
+        process.communicate()
 
 
 @contextlib.contextmanager
@@ -123,57 +117,43 @@ def x_server():
     reader, writer = os.pipe()
     command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", "%dx%dx24" % SCREEN,
                "-ac", "-bs", "-noreset", "-nolisten", "tcp"]
-    server = subprocess.Popen(command, pass_fds=[writer], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    os.close(writer)
-    with ending(server), open(reader) as answer:
-        ready, _, _ = select.select([answer], [], [], LIMIT)
-        number = answer.readline().strip() if ready else ""
+    with open(reader) as answer, started(command, pass_fds=[writer]) as server:
+        os.close(writer)
+        number = answer.readline().strip() if select.select([answer], [], [], LIMIT)[0] else ""
         check(number, "Xvfb did not start")
         server.display = ":" + number
         yield server
 
 
-def default_signals():
-    # Whoever runs this in the background may have it ignore them, and ignored signals are inherited.
-    for number in (signal.SIGINT, signal.SIGHUP):
-        signal.signal(number, signal.SIG_DFL)
+def program(folder, display, **options):
+    hidden = "DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XDG_RUNTIME_DIR"
+    environment = {name: value for name, value in os.environ.items() if name not in hidden}
+    environment["LSAN_OPTIONS"] = f"suppressions={LEAKS}:print_suppressions=0"
+    if display:
+        environment["DISPLAY"] = display
+    return started([folder / "gloomdeck"], cwd="/", env=environment, **options)
 
 
-def start(folder, display, user=None):
-    environment = {name: value for name, value in os.environ.items()
-                   if name not in ("DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XDG_RUNTIME_DIR")}
-    leaks = pathlib.Path(__file__).with_name("leaks.txt")
-    environment |= {"LSAN_OPTIONS": f"suppressions={leaks}:print_suppressions=0"}
-    environment |= {"DISPLAY": display} if display else {}
-    other = {"user": user, "group": user, "extra_groups": []} if user else {}
-    return subprocess.Popen([folder / "gloomdeck"], cwd="/", env=environment, stdin=subprocess.DEVNULL,
-                            stderr=subprocess.PIPE, text=True, preexec_fn=default_signals, **other)
-
-
-def finish(process, limit=LIMIT):
+def finish(process):
     """The exit code and what was written to standard error."""
     try:
-        _, errors = process.communicate(timeout=limit)
+        return process.wait(LIMIT), process.stderr.read()
     except subprocess.TimeoutExpired:
-        raise Fault(f"the program still ran {limit} seconds later") from None
-    return process.returncode, errors
+        raise Fault(f"the program still ran {LIMIT} seconds later") from None
 
 
 class Game:
     """A running game and its window."""
 
     def __init__(self, process, folder, display):
-        self.process, self.folder = process, folder
-        self.environment = {**os.environ, "DISPLAY": display}
-        self.window = None
+        self.process, self.folder, self.display = process, folder, display
         self.until("a window", self.find_window)
         self.xdotool("windowfocus", self.window, "mousemove", *OUTSIDE)
 
     def find_window(self):
-        found = self.run("xdotool", "search", "--all", "--onlyvisible", "--pid", self.process.pid,
-                         "--class", "^gloomdeck$").stdout.split()
-        self.window = found[0].decode() if found else None
-        return found
+        search = "search", "--all", "--onlyvisible", "--pid", self.process.pid, "--class", "^gloomdeck$"
+        self.window = self.answer("xdotool", *search, fails=True).decode().strip()
+        return self.window
 
     def until(self, what, condition):
         def ended_or_right():
@@ -182,14 +162,14 @@ class Game:
             return condition()
         until(what, ended_or_right)
 
-    def run(self, *words):
-        return subprocess.run([str(word) for word in words], env=self.environment, stdin=subprocess.DEVNULL,
-                              capture_output=True, timeout=LIMIT, check=False)
-
-    def answer(self, *words):
-        done = self.run(*words)
-        check(done.returncode == 0, f"'{words[0]} {words[1]}' failed {done.stderr.decode().strip()}")
+    def answer(self, *words, fails=False):
+        done = subprocess.run([str(word) for word in words], env={**os.environ, "DISPLAY": self.display},
+                              stdin=subprocess.DEVNULL, capture_output=True, timeout=LIMIT, check=False)
+        check(fails or done.returncode == 0, f"'{words[0]} {words[1]}' failed {done.stderr.decode().strip()}")
         return done.stdout
+
+    def tool(self, command, *words):
+        return self.answer(TOOL, command, self.window, *words)
 
     def xdotool(self, *words):
         return self.answer("xdotool", *words).decode().strip()
@@ -200,11 +180,8 @@ class Game:
     def until_title(self, title):
         self.until(f"the title '{title}'", lambda: self.title() == title)
 
-    def property(self, name):
-        return self.answer("xprop", "-id", self.window, name).decode()
-
     def pixels(self, part=(0, 0, WIDTH, HEIGHT)):
-        return self.answer(TOOL, "pixels", self.window, *part)
+        return self.tool("pixels", *part)
 
     def pixel(self, x, y):
         return self.pixels((x, y, 1, 1)).hex()
@@ -217,39 +194,32 @@ class Game:
         action()
         self.until(what, lambda: self.pixels(part) != before)
 
-    def move(self, x, y):
-        self.xdotool("mousemove", "--window", self.window, x, y)
+    def move(self, place):
+        self.xdotool("mousemove", "--window", self.window, *place)
 
     def leave(self):
         self.xdotool("mousemove", *OUTSIDE)
 
     def click(self, place, times=1):
-        quick = ("mousedown", "1", "mouseup", "1")  # without the pause that `click` makes
+        quick = "mousedown", "1", "mouseup", "1"  # without the pause that `click` makes
         self.xdotool("mousemove", "--window", self.window, *place, *(times * quick))
 
     def key(self, *names):
         self.xdotool("key", *names)
 
-    def resize(self, width, height):
-        self.xdotool("windowsize", self.window, width, height)
-
-    def close(self):
-        self.answer(TOOL, "close", self.window)
-
-    def cover(self):
-        self.answer(TOOL, "cover", self.window)
-
     def pass_title(self):
-        """The title picture answers to any key, but a key that comes before the window's first look is lost."""
         self.until("the title picture", lambda: len(set(self.pixels((0, 0, WIDTH, 40)))) > 1)
         self.key("space")
+
+    def open_board(self):
+        self.pass_title()
+        self.until("the board's edge", lambda: self.pixel(8, 39) == "ffffff")
 
     def use(self):
         """Processor time in milliseconds, and how often the program has slept."""
         root = pathlib.Path("/proc", str(self.process.pid))
-        status = (root / "status").read_text()
-        sleeps = int(status.split("\nvoluntary_ctxt_switches:")[1].split()[0])
-        return int((root / "schedstat").read_text().split()[0]) / 1e6, sleeps
+        sleeps = (root / "status").read_text().split("\nvoluntary_ctxt_switches:")[1].split()[0]
+        return int((root / "schedstat").read_text().split()[0]) / 1e6, int(sleeps)
 
     def is_at_rest(self, seconds=0.5):
         busy, sleeps = self.use()
@@ -258,18 +228,18 @@ class Game:
         return busy_later - busy < 20 * seconds and sleeps_later - sleeps < 30 * seconds
 
     def until_at_rest(self, screen):
-        self.until(f"rest on the screen {screen}", self.is_at_rest)
+        self.until(f"rest on the screen '{screen}'", self.is_at_rest)
 
-    def until_ended(self, limit=LIMIT):
-        code, errors = finish(self.process, limit)
-        # Xlib tells of a lost server itself.
-        check(code == 0 and (not errors or errors.startswith("X connection to")), f"the program ended with code {code} and wrote '{errors}'")
-        return read_saved(self.folder) if (self.folder / "Data" / "DGDP.dat").exists() else None
+    def until_ended(self):
+        code, errors = finish(self.process)
+        xlib = errors.startswith("X connection to")  # it tells of a lost server itself
+        check(code == 0 and (xlib or not errors), f"the program ended with code {code} and wrote '{errors}'")
+        return read_saved(self.folder) if (self.folder / "Data").exists() else None
 
 
 @contextlib.contextmanager
-def running(folder, display, user=None):
-    with ending(start(folder, display, user)) as process:
+def running(folder, display, **options):
+    with program(folder, display, **options) as process:
         yield Game(process, folder, display)
 
 
@@ -279,10 +249,5 @@ def playing(display, columns, speed, suns=0):
     with game_folder("gfx", "Data") as folder:
         write_saved(folder, columns, speed, suns)
         with running(folder, display) as game:
-            open_board(game)
+            game.open_board()
             yield game
-
-
-def open_board(game):
-    game.pass_title()
-    game.until("the board", lambda: game.pixel(8, 39) == "ffffff")

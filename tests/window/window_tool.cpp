@@ -9,24 +9,20 @@
 
 namespace {
 
-struct Place {
-    int x = 0;
-    int y = 0;
-    unsigned width = 0;
-    unsigned height = 0;
-};
+using Words = std::vector<std::string>;
 
-int printPixels(Display* display, Window window, const Place& part) {
-    XImage* image = XGetImage(display, window, part.x, part.y, part.width, part.height, AllPlanes, ZPixmap);
+// Red, green and blue of every pixel of the part x, y, width, height.
+int printPixels(Display* display, Window window, const Words& part) {
+    const auto size = [&](std::size_t i) { return static_cast<unsigned>(std::stoul(part[i])); };
+    XImage* image = XGetImage(display, window, std::stoi(part[0]), std::stoi(part[1]), size(2), size(3),
+                              AllPlanes, ZPixmap);
     if (!image) return EXIT_FAILURE;
-    std::string bytes;
     for (int y = 0; y < image->height; ++y)
-        for (int x = 0; x < image->width; ++x) {
-            const unsigned long pixel = XGetPixel(image, x, y);
-            for (const int shift : {16, 8, 0}) bytes += static_cast<char>(pixel >> shift & 0xFF);
-        }
+        for (int x = 0; x < image->width; ++x)
+            for (const int shift : {16, 8, 0})
+                std::putchar(static_cast<int>(XGetPixel(image, x, y) >> shift & 0xFF));
     XDestroyImage(image);
-    return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() ? EXIT_SUCCESS : EXIT_FAILURE;
+    return EXIT_SUCCESS;
 }
 
 int askToClose(Display* display, Window window) {
@@ -60,19 +56,16 @@ int coverForAMoment(Display* display, Window window) {
 
 }  // namespace
 
-int main(int count, char** words) {
-    const std::vector<std::string> given(words + 1, words + count);
+int main(int count, char** arguments) {
+    const Words words(arguments + 1, arguments + count);
     Display* display = XOpenDisplay(nullptr);
-    if (!display || given.size() < 2) return EXIT_FAILURE;
-    const Window window = std::stoul(given[1]);
+    if (!display || words.size() < 2) return EXIT_FAILURE;
+    const Window window = std::stoul(words[1]);
     int answer = EXIT_FAILURE;
-    if (given[0] == "close") answer = askToClose(display, window);
-    if (given[0] == "cover") answer = coverForAMoment(display, window);
-    if (given[0] == "pixels" && given.size() == 6)
-        answer = printPixels(
-            display, window,
-            {std::stoi(given[2]), std::stoi(given[3]), static_cast<unsigned>(std::stoul(given[4])),
-             static_cast<unsigned>(std::stoul(given[5]))});
+    if (words[0] == "close") answer = askToClose(display, window);
+    if (words[0] == "cover") answer = coverForAMoment(display, window);
+    if (words[0] == "pixels" && words.size() == 6)
+        answer = printPixels(display, window, {words.begin() + 2, words.end()});
     XCloseDisplay(display);
     return answer;
 }
