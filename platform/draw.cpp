@@ -15,6 +15,11 @@ Colour backgroundColour = 0xFF000000;
 
 Colour* rowAt(int y) { return screen().pixels.data() + y * screen().width; }
 
+void changedBetween(int y1, int y2) {
+    const Rect& clip = clipRect();
+    frameChanged({std::max(std::min(y1, y2), clip.y1), std::min(std::max(y1, y2), clip.y2)});
+}
+
 void setPixel(int x, int y, Colour colour) {
     if (contains(clipRect(), x, y)) rowAt(y)[x] = colour;
 }
@@ -23,7 +28,7 @@ void fillClipped(const Rect& wanted, Colour colour) {
     const Rect r = intersection(wanted, clipRect());
     if (isEmpty(r)) return;
     for (int y = r.y1; y <= r.y2; ++y) std::fill(rowAt(y) + r.x1, rowAt(y) + r.x2 + 1, colour);
-    frameChanged();
+    frameChanged({r.y1, r.y2});
 }
 
 // Bresenham's line: a whole-number error term decides between the straight and the diagonal step.
@@ -32,6 +37,7 @@ void drawSlopedLine(int x1, int y1, int x2, int y2, Colour colour) {
     const int dy = -std::abs(y2 - y1);
     const int stepX = x1 < x2 ? 1 : -1;
     const int stepY = y1 < y2 ? 1 : -1;
+    const Rows span{y1, y2};
     int error = dx + dy;
     while (true) {
         setPixel(x1, y1, colour);
@@ -46,7 +52,7 @@ void drawSlopedLine(int x1, int y1, int x2, int y2, Colour colour) {
             y1 += stepY;
         }
     }
-    frameChanged();
+    changedBetween(span.first, span.last);
 }
 
 void setOctants(int cx, int cy, int x, int y, Colour colour) {
@@ -104,7 +110,7 @@ void drawCircle(int cx, int cy, int radius, Colour colour) {
         }
         error += 2 * y + 3;
     }
-    frameChanged();
+    changedBetween(cy - radius, cy + radius);
 }
 
 void drawText(int x, int y, std::string_view text, Colour colour) {
@@ -112,7 +118,7 @@ void drawText(int x, int y, std::string_view text, Colour colour) {
         drawGlyph(x, y, glyphOf(character), colour);
         x += glyphSize;
     }
-    frameChanged();
+    changedBetween(y, y + glyphSize - 1);
 }
 
 void drawText(int x, int y, std::string_view text) { drawText(x, y, text, textColour); }

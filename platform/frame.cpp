@@ -11,15 +11,15 @@ namespace {
 Image frame;
 Rect clip;
 bool locked = false;
-bool changed = false;
+Rows changed;               // what the display has not had yet
 double lastShown = -1.0e9;  // long ago
 
 Rect wholeFrame() { return {0, 0, frame.width - 1, frame.height - 1}; }
 
 void show() {
-    host::present(frame.pixels.data());
+    host::present(frame.pixels.data(), changed);
     lastShown = host::seconds();
-    changed = false;
+    changed = {};
 }
 
 }  // namespace
@@ -49,11 +49,13 @@ void resetClip() { clip = wholeFrame(); }
 
 Image& screen() { return frame; }
 
-Rect clipRect() { return clip; }
+const Rect& clipRect() { return clip; }
 
-void frameChanged() { changed = true; }
+void frameChanged(Rows rows) { changed = joined(changed, rows); }
 
-bool frameWaits() { return changed && !locked && !frame.pixels.empty(); }
+void frameChanged() { changed = {0, frame.height - 1}; }
+
+bool frameWaits() { return changed.last >= changed.first && !locked; }
 
 double secondsUntilDue() { return std::max(0.0, lastShown + host::framePeriod() - host::seconds()); }
 
@@ -68,7 +70,8 @@ void showFrameNow() {
 void resetFrame() {
     destroyImage(frame);
     resetClip();
-    locked = changed = false;
+    locked = false;
+    changed = {};
     lastShown = -1.0e9;
 }
 

@@ -40,9 +40,11 @@ struct ClipTo {
 
 // For the drawing operations of this layer and for images that are cut from the screen.
 
-/// The frame's pixels, empty before openWindow. Whoever changes them calls frameChanged.
+/// The frame's pixels, empty before openWindow. Whoever changes them tells in which rows, or that all may
+/// have.
 Image& screen();
-Rect clipRect();
+const Rect& clipRect();
+void frameChanged(Rows rows);
 void frameChanged();
 
 /// Shows what has changed, unless the screen is locked or the display has not had the last picture for a

@@ -20,6 +20,19 @@ struct Rect {
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+/// Rows of a picture, top and bottom, both included; empty when last < first.
+struct Rows {
+    int first = 0;
+    int last = -1;
+    friend bool operator==(const Rows&, const Rows&) = default;
+};
+
+/// The rows from the first to the last of both.
+constexpr Rows joined(const Rows& a, const Rows& b) {
+    if (a.last < a.first) return b;
+    return b.last < b.first ? a : Rows{std::min(a.first, b.first), std::max(a.last, b.last)};
+}
+
 constexpr bool isEmpty(const Rect& r) { return r.x2 < r.x1 || r.y2 < r.y1; }
 
 constexpr bool contains(const Rect& r, int x, int y) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/colour.h"
+#include "platform/geometry.h"
 #include "platform/input_queue.h"
 
 namespace gloomdeck::host {
@@ -17,8 +18,9 @@ void open(int width, int height);
 /// Titles the window; remembered when it is not open yet.
 void setTitle(const std::string& title);
 
-/// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once.
-void present(const Colour* pixels);
+/// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once; only those rows differ
+/// from the frame shown before.
+void present(const Colour* pixels, Rows changed);
 
 /// Seconds between two pictures of the display: no present is made sooner after the last.
 double framePeriod();

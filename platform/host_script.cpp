@@ -60,7 +60,7 @@ void open(int width, int height) {
 
 void setTitle(const std::string& title) { state.title = title; }
 
-void present(const Colour* pixels) {
+void present(const Colour* pixels, Rows /*changed*/) {
     state.shown.assign(pixels, pixels + state.framePixels);
     ++state.presents;
 }

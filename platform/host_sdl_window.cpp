@@ -158,14 +158,15 @@ void titleDesktopWindow(const std::string& title) {
     if (window) SDL_SetWindowTitle(window, title.c_str());
 }
 
-void showFrame(const Colour* pixels) {
-    const auto rows = changedRows(frameSize, shownPixels.data(), pixels);
-    if (!rows) return;
-    std::copy_n(pixels, shownPixels.size(), shownPixels.begin());
+void showFrame(const Colour* pixels, Rows changed) {
+    const Rows rows = changedRows(frameSize, changed, shownPixels.data(), pixels);
+    if (rows.last < rows.first) return;
+    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
+    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shownPixels.begin() + start);
     if (renderer)
         paintRenderer();
     else
-        paintSurface(*rows, false);
+        paintSurface(rows, false);
 }
 
 void repaintWindow() {

@@ -16,8 +16,8 @@ void closeDesktopWindow();
 
 void titleDesktopWindow(const std::string& title);
 
-/// Shows what a frame changes and keeps it for repaints.
-void showFrame(const Colour* pixels);
+/// Shows what a frame changes, in those rows, and keeps it for repaints.
+void showFrame(const Colour* pixels, Rows changed);
 
 /// Shows the kept frame (black before the first) and the black around it again.
 void repaintWindow();

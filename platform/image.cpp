@@ -48,7 +48,7 @@ void putImage(int x, int y, const Image& image, PutMode mode) {
     for (int row = part.y1; row <= part.y2; ++row)
         putRow(pixelAt(screen(), part.x1, row), pixelAt(image, part.x1 - x, row - y), part.x2 - part.x1 + 1,
                mode);
-    frameChanged();
+    frameChanged({part.y1, part.y2});
 }
 
 }  // namespace gloomdeck

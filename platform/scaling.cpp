@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 
 namespace gloomdeck {
@@ -61,14 +62,15 @@ void shrink(const Colour* pixels, Extent frame, Extent picture, Colour* target, 
 
 }  // namespace
 
-std::optional<Rows> changedRows(Extent frame, const Colour* before, const Colour* now) {
-    const Colour* const end = now + std::ptrdiff_t{frame.width} * frame.height;
-    const auto first = std::mismatch(now, end, before).first;
-    if (first == end) return std::nullopt;
-    const auto last = std::mismatch(std::reverse_iterator(end), std::reverse_iterator(now),
-                                    std::reverse_iterator(before + (end - now)));
-    const auto rowOf = [&](const Colour* pixel) { return static_cast<int>((pixel - now) / frame.width); };
-    return Rows{rowOf(first), rowOf(last.first.base() - 1)};
+Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* now) {
+    const auto same = [&](int row) {
+        const std::ptrdiff_t at = std::ptrdiff_t{row} * frame.width;
+        return std::memcmp(before + at, now + at, static_cast<std::size_t>(frame.width) * sizeof(Colour)) ==
+               0;
+    };
+    while (rows.first <= rows.last && same(rows.first)) ++rows.first;
+    while (rows.last >= rows.first && same(rows.last)) --rows.last;
+    return rows;
 }
 
 int openingScale(Extent usable) {

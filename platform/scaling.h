@@ -15,15 +15,8 @@ struct Extent {
     friend bool operator==(const Extent&, const Extent&) = default;
 };
 
-/// Rows of a frame, top and bottom, both included.
-struct Rows {
-    int first = 0;
-    int last = 0;
-    friend bool operator==(const Rows&, const Rows&) = default;
-};
-
-/// From the first to the last row in which two frames differ; none where they are the same.
-std::optional<Rows> changedRows(Extent frame, const Colour* before, const Colour* now);
+/// From the first to the last of those rows in which two frames differ; empty where they are the same.
+Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* now);
 
 /// How many times its size (1 to 4) a window for the frame opens on a display with that much usable room:
 /// large enough to read, and leaving at least half the width and a third of the height free.

@@ -72,15 +72,17 @@ TEST(Scaling, PlacesMapBackToTheFramesPixelsAndNoFurther) {
 
 TEST(Scaling, ChangedRowsReachFromTheFirstToTheLastDifference) {
     const Extent small{3, 4};
+    const Rows all{0, 3};
     const std::vector<Colour> before(12, 7);
-    EXPECT_FALSE(changedRows(small, before.data(), before.data()));
+    EXPECT_GT(changedRows(small, all, before.data(), before.data()).first, all.last);
     std::vector<Colour> now = before;
     now[5] = 8;
-    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{1, 1}));
+    EXPECT_EQ(changedRows(small, all, before.data(), now.data()), (Rows{1, 1}));
     now[6] = 8;
-    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{1, 2}));
+    EXPECT_EQ(changedRows(small, all, before.data(), now.data()), (Rows{1, 2}));
     now[0] = now[11] = 8;
-    EXPECT_EQ(changedRows(small, before.data(), now.data()), (Rows{0, 3}));
+    EXPECT_EQ(changedRows(small, all, before.data(), now.data()), (Rows{0, 3}));
+    EXPECT_EQ(changedRows(small, {1, 3}, before.data(), now.data()), (Rows{1, 3}));
 }
 
 TEST(Scaling, EnlargedPixelsAreHardBlocksAndTheRestStays) {
