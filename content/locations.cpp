@@ -97,8 +97,10 @@ using Percentages = std::array<int, enc::count>;
 
 constexpr Percentages percentagesOf(const Location& location) {
     Percentages all{};
+    const std::int32_t total = totalWeight(location);
+    if (total == 0) return all;  // no location is so; only the analyzer must be told
     for (std::size_t i = 0; i < all.size(); ++i)
-        all[i] = roundedRatio(location.encounterWeights[i] * std::int64_t{100}, totalWeight(location));
+        all[i] = roundedRatio(location.encounterWeights[i] * std::int64_t{100}, total);
     return all;
 }
 
