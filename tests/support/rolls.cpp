@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <random>
+#include <stdexcept>
 
 #include "platform/random.h"
 
@@ -11,11 +12,12 @@ namespace {
 
 std::deque<FedRoll> fed;
 int missing = 0;
+constexpr int mostMissing = 10000;
 std::mt19937_64 stream;
 
 double nextFed() {
     if (fed.empty()) {
-        ++missing;
+        if (++missing > mostMissing) throw std::runtime_error("a loop waits for a roll that nobody feeds");
         return 0.0;
     }
     const FedRoll roll = fed.front();
