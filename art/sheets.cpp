@@ -63,19 +63,14 @@ Canvas everyTile(int k) {
     return enlarged(t, k);
 }
 
-// Twice as large on every ground, then the first ground in grey and without green cones, then all 1:1.
-Canvas onEveryGround(std::span<const int> numbers, const std::vector<Canvas>& grounds) {
-    std::vector<Canvas> lines, small;
-    for (const Canvas& below : grounds) {
-        small.push_back(row(numbers, below));
-        lines.push_back(enlarged(small.back(), 2));
-    }
-    const Canvas nothing(small.front().width(), size);
-    for (Colour (*view)(Colour) : {grey, deuteranopia}) {
-        lines.push_back(enlarged(seenOver(nothing, small.front(), view), 2));
-    }
-    lines.insert(lines.end(), small.begin(), small.end());
-    return stacked(lines);
+// On every ground, then the first ground in grey and without green cones.
+Canvas onEveryGround(std::span<const int> numbers, const std::vector<Canvas>& grounds, int k) {
+    std::vector<Canvas> lines;
+    for (const Canvas& below : grounds) lines.push_back(row(numbers, below));
+    const Canvas first = lines.front();
+    const Canvas nothing(first.width(), size);
+    for (Colour (*view)(Colour) : {grey, deuteranopia}) lines.push_back(seenOver(nothing, first, view));
+    return enlarged(stacked(lines), k);
 }
 
 std::vector<Canvas> terrainGrounds() {
@@ -117,14 +112,16 @@ Canvas boardViews() {
 }  // namespace
 
 std::vector<Sheet> contactSheets() {
-    return {{"tiles_1x", everyTile(1)},
-            {"tiles_2x", everyTile(2)},
-            {"tiles_4x", everyTile(4)},
-            {"encounters_on_terrain", onEveryGround(encounters, terrainGrounds())},
-            {"icons_on_interface", onEveryGround(iconsOnGrounds, interfaceGrounds())},
-            {"board_1x", fullBoard()},
-            {"board_views_2x", boardViews()},
-            {"title", paintTitle()}};
+    std::vector<Sheet> sheets{
+        {"board_1x", fullBoard()}, {"board_views_2x", boardViews()}, {"title", paintTitle()}};
+    for (const int k : {1, 2, 4}) {
+        const std::string scale = "_" + std::to_string(k) + "x";
+        sheets.push_back({"tiles" + scale, everyTile(k)});
+        sheets.push_back({"encounters_on_terrain" + scale, onEveryGround(encounters, terrainGrounds(), k)});
+        sheets.push_back(
+            {"icons_on_interface" + scale, onEveryGround(iconsOnGrounds, interfaceGrounds(), k)});
+    }
+    return sheets;
 }
 
 }  // namespace gloomdeck::art
