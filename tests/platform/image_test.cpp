@@ -23,11 +23,11 @@ Image numbered(int width, int height) {
 // True when a copying put changes just what lies inside the clip, to the picture's own pixels.
 bool isPutInside(const Rect& clip, const Image& image, Point at) {
     std::vector<Colour> expected(screen().pixels.size(), ground);
-    for (int y = 0; y < image.height; ++y)
-        for (int x = 0; x < image.width; ++x)
-            if (contains(clip, at.x + x, at.y + y))
-                expected[static_cast<std::size_t>((at.y + y) * frameWidth + at.x + x)] =
-                    image.pixels[static_cast<std::size_t>(y * image.width + x)];
+    auto pixel = image.pixels.begin();
+    for (int y = at.y; y < at.y + image.height; ++y)
+        for (int x = at.x; x < at.x + image.width; ++x, ++pixel)
+            if (contains(clip, x, y))
+                expected[static_cast<std::size_t>(y) * frameWidth + static_cast<std::size_t>(x)] = *pixel;
     fillBox(0, 0, frameWidth, frameHeight, ground);
     setClip(clip.x2, clip.y2, clip.x1, clip.y1);
     putImage(at.x, at.y, image, putCopy);
@@ -51,7 +51,7 @@ TEST(Kernels, BlendingIsExactForEveryPairOfChannelsAndEveryAlpha) {
             for (std::size_t i = 0; i < from.size(); ++i)
                 for (int shift = 0; shift < 32; shift += 8) {
                     const int s = static_cast<int>(from[i] >> shift & 0xFF);
-                    wrong += static_cast<int>(to[i] >> shift & 0xFF) != d + (s - d) * alpha / 256;
+                    if (static_cast<int>(to[i] >> shift & 0xFF) != d + (s - d) * alpha / 256) ++wrong;
                 }
         }
     EXPECT_EQ(wrong, 0);
