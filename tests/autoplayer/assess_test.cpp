@@ -91,6 +91,7 @@ const Case cases[] = {
     {"LockedChestGoodPicks", enc::LockedChest, knows<lockpicking, 10>, 8, fairlyEasy},
     {"LockedChestOneKey", enc::LockedChest, has<keys, 1>, 1, obstacle},
     {"LockedChestPoorPicks", enc::LockedChest, knows<lockpicking, 9>, 1, obstacle},
+    {"LockedChestOnePick", enc::LockedChest, knows<lockpicking, 1>, 1, obstacle},
     {"LockedChestNothing", enc::LockedChest, nothing, -10, obstacle, false},
     {"Flower", enc::Flower, nothing, 7, fairlyEasy},
     {"FlowerUnderSight", enc::Flower, with<magicSight>, 0, obstacle},

@@ -23,7 +23,7 @@ TEST_F(AutoplayerChoice, TheLookAheadFadesWithDistance) {
     EXPECT_EQ(scoreOf({1, 20, 20, 20, 20, 20, 20}), 7 + 40 + 38 + 18 + 17 + 16 + 15);
     EXPECT_EQ(scoreOf({1, 2, 2, 2, 2, 2, 2}), 7 + 4 + 2 + 1 + 1 + 1 + 1) << "never faded below 1";
     EXPECT_EQ(scoreOf({9, -2, -2, -2, -2, -2, -2}), 63 - 2 - 1 - 1 - 1 - 1 - 1) << "nor above -1";
-    EXPECT_EQ(scoreOf({9, 0, 0, 0, 0, 0, 0}), 63);
+    EXPECT_EQ(scoreOf({9, 1, 0, 0, 0, 0, 0}), 63 + 2);
     EXPECT_EQ(scoreOf({0, 0, 5, 0, 0, 0, 0}), 8) << "zeros do not break the chain";
     EXPECT_EQ(scoreOf({9, -1, 6, 0, 0, 0, 0}), 63 - 1 + 5) << "what stands on a bad tile is not doubled";
 }
