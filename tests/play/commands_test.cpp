@@ -83,10 +83,13 @@ TEST_F(CommandTest, KeysAndButtonsOpenTheSameScreensAndEveryWayLeavesThem) {
 }
 
 TEST_F(CommandTest, ReplayAndNewAskDuringPlay) {
-    script.click(boardCell(2, bottomRow));
-    for (const char* key : {"R", "N"}) script.key(key).key("n").screen(playTitle).key(key).key("\x1B");
-    for (const int button : {id::replay, id::newGame})
+    const auto noAndMore = [](InputQueue& queue) {
+        for (const char* key : {"n", "P"}) keyTyped(queue, key);
+    };
+    for (const char* key : {"R", "N"}) script.key(key).then(noAndMore).screen(playTitle).key(key).key("\x1B");
+    for (const int button : {id::newGame, id::replay})
         script.button(button).key("\t").key("\r").screen(playTitle);
+    script.click(boardCell(2, bottomRow));
     expectTurns(1).key("R").key("y");
     expectTurns(0).check([] { giveHero(50); }).click(boardCell(2, bottomRow)).button(id::replay).key("\r");
     expectTurns(0).key("N").key("\r").screen(selectionTitle).key("\r").screen(playTitle);
