@@ -1,4 +1,4 @@
-#include "tests/soak/player.h"
+#include "tools/soak/player.h"
 
 #include <random>
 #include <span>

@@ -1,4 +1,4 @@
-#include "tests/soak/watch.h"
+#include "tools/soak/watch.h"
 
 #include <array>
 #include <string>

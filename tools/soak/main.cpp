@@ -23,8 +23,8 @@
 #include "shell/main_loop.h"
 #include "shell/messages.h"
 #include "shell/ui_state.h"
-#include "tests/soak/player.h"
-#include "tests/soak/watch.h"
+#include "tools/soak/player.h"
+#include "tools/soak/watch.h"
 
 namespace gloomdeck::soak {
 
