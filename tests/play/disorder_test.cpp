@@ -76,7 +76,7 @@ class DisorderTest : public QuickPlayTest {
         std::string bytes = randomBytes(random, sizes[random() % sizes.size()]);
         const bool smallNumbers = upTo(random, 1) != 0;
         for (std::size_t i = 0; smallNumbers && i < bytes.size(); ++i)
-            bytes[i] = i % 4 ? '\0' : bytes[i] & 63;
+            bytes[i] = i % 4 ? '\0' : static_cast<char>(bytes[i] & 63);
         return bytes;
     }
 

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -27,10 +28,13 @@ constexpr int dungeon = 3;
 std::vector<std::string> folders;
 
 bool isTerrain(int number) {
-    for (const int terrain :
-         {tile::cellar, tile::ruins, tile::portal, tile::marble, tile::pictureFrame, tile::masonry})
-        if (number == terrain) return true;
-    return false;
+    constexpr std::array terrain{tile::cellar, tile::ruins,        tile::portal,
+                                 tile::marble, tile::pictureFrame, tile::masonry};
+    return std::find(terrain.begin(), terrain.end(), number) != terrain.end();
+}
+
+std::size_t pixelIndex(int x, int y, int width) {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
 }
 
 Colour flatPixel(int number, int x, int y) {
@@ -45,7 +49,7 @@ std::array<Image, tile::count> paintedFlatTiles() {
         image = createImage(tile::size, tile::size);
         for (int y = 0; y < tile::size; ++y)
             for (int x = 0; x < tile::size; ++x)
-                image.pixels[static_cast<std::size_t>(y * tile::size + x)] = flatPixel(number, x, y);
+                image.pixels[pixelIndex(x, y, tile::size)] = flatPixel(number, x, y);
     }
     return images;
 }
@@ -169,7 +173,7 @@ void GameTest::TearDown() {
     removeProgramFolders();
 }
 
-Colour pixelAt(int x, int y) { return screen().pixels[static_cast<std::size_t>(y * screen().width + x)]; }
+Colour pixelAt(int x, int y) { return screen().pixels[pixelIndex(x, y, screen().width)]; }
 
 bool textStandsAt(int x, int y, std::string_view text, Colour ink) {
     for (std::size_t i = 0; i < text.size(); ++i)
