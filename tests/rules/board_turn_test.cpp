@@ -123,6 +123,7 @@ TEST_F(BoardTurnTest, FourTurnsMakeADay) {
                             {35, tile::night, "9", 337},
                             {36, tile::dawn, "10", 333},
                             {394, tile::dusk, "99", 333},
+                            {396, tile::dawn, "100", 330},
                             {400, tile::dawn, "101", 330}}) {
         game.turns = time.turns;
         DrawDayDisplay();

@@ -78,6 +78,7 @@ TEST_F(StatsColumnTest, APowersBarShrinksToTheRightByTwoPixelsATurn) {
         EXPECT_TRUE(textStandsAt(106, 292, std::to_string(turns), colour::text)) << turns;
     }
     EXPECT_EQ(pixelAt(72, 305), flatColour(tile::stasis));
+    EXPECT_EQ(pixelAt(71, 308), colour::red);
     EXPECT_EQ(pixelAt(104, 308), colour::red);
     EXPECT_EQ(pixelAt(137, 302), colour::panel);
     EXPECT_EQ(pixelAt(138, 302), colour::red);
