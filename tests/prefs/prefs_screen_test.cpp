@@ -11,32 +11,22 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr Point done{204, 346};
-constexpr Point slower{148, 132};
-constexpr Point faster{260, 132};
-
-Point toggle(int row) { return {124, (row == 6 ? 314 : 182 + 19 * row)}; }
-
 std::uint32_t switchWord() {
     std::uint32_t word = 0;
     std::memcpy(&word, reinterpret_cast<const char*>(&prefs) + 48, sizeof word);
     return word;
 }
 
-void setSwitchWord(std::uint32_t word) {
-    std::memcpy(reinterpret_cast<char*>(&prefs) + 48, &word, sizeof word);
-}
-
-bool rowStands(int row, const std::string& text, Colour ink) {
-    return textStandsAt(162, toggle(row).y - 4, text, ink);
+bool rowStands(int button, const std::string& text, Colour ink) {
+    return textStandsAt(162, widget(button).y + 4, text, ink);
 }
 
 bool speedStands(const std::string& name) {
     return textStandsAt(204 - 4 * static_cast<int>(name.size()), 129, name, colour::text);
 }
 
-void play(Script script) {
-    startScript(script.key("q"));
+void play(const Script& script) {
+    startScript(script);
     RunPreferencesScreen();
     finishScript();
 }
@@ -46,70 +36,54 @@ void play(Script script) {
 using PrefsScreenTest = GameTest;
 
 TEST_F(PrefsScreenTest, EachRowFlipsItsOwnSwitchOfWhichTwoAreCrossed) {
-    struct Row {
-        const char* label;
-        std::uint32_t bit;
-    };
-    const std::array<Row, toggleRows> rows{{{"Good stuff: ", 0},
-                                            {"Fairly easy: ", 1},
-                                            {"Obstacles: ", 2},
-                                            {"Spells/skills: ", 4},
-                                            {"\"Grief\": ", 3},
-                                            {"Restart: ", 5},
-                                            {"Skip text: ", 6}}};
-    const std::uint32_t others = 0xABCDEF00 | 0x80;  // bits that no row shows stay
-    setSwitchWord(others);
+    const std::array<std::string, toggleRows> labels{
+        "Good stuff: ", "Fairly easy: ", "Obstacles: ", "Spells/skills: ",
+        "\"Grief\": ",  "Restart: ",     "Skip text: "};
+    const std::array<int, toggleRows> bits{0, 1, 2, 4, 3, 5, 6};
+    prefs.unusedSwitches = 0x1579BDF;
+    const std::uint32_t allOff = switchWord();
     Script script;
-    for (int row = 0; row < toggleRows; ++row) {
-        const Row& r = rows[static_cast<std::size_t>(row)];
-        script.check([=] { EXPECT_TRUE(rowStands(row, r.label + std::string("Off"), colour::slate)) << row; })
-            .click(toggle(row))
+    for (std::size_t row = 0; row < toggleRows; ++row) {
+        const int button = id::toggle + static_cast<int>(row);
+        script.check([=] { EXPECT_TRUE(rowStands(button, labels[row] + "Off", colour::slate)) << row; })
+            .button(button)
             .check([=] {
-                EXPECT_EQ(switchWord(), others | 1U << r.bit);
-                EXPECT_TRUE(rowStands(row, r.label + std::string("On "), colour::yellow)) << row;
+                EXPECT_EQ(switchWord(), allOff | 1U << bits[row]);
+                EXPECT_TRUE(rowStands(button, labels[row] + "On ", colour::yellow)) << row;
             })
-            .click(toggle(row))
-            .check([=] { EXPECT_EQ(switchWord(), others) << row; });
+            .button(button);
     }
-    play(script);
+    play(script.key("q"));
+    EXPECT_EQ(switchWord(), allOff);
 }
 
 TEST_F(PrefsScreenTest, TheSpeedChangesByKeysAndButtonsWithinItsLimitsAndPostsNothing) {
-    ShowMessage("before", 0);
     prefs.GameSpeed = 5;
     Script script;
-    script.check([] { EXPECT_TRUE(speedStands("Ultra Fast")); })
-        .click(faster)
-        .check([] { EXPECT_TRUE(speedStands("Mega fast")); })
-        .key("+")
-        .click(faster)
-        .check([] { EXPECT_EQ(prefs.GameSpeed, 6); });
-    for (int i = 0; i < 3; ++i) script.key("-").click(slower);
-    script.check([] { EXPECT_TRUE(speedStands("Slowest")); }).key("-").click(slower).key("+");
-    play(script);
+    script.button(id::speedUp).check([] { EXPECT_TRUE(speedStands("Mega fast")); });
+    script.key("+").button(id::speedUp).check([] { EXPECT_EQ(prefs.GameSpeed, 6); });
+    for (int i = 0; i < 4; ++i) script.key("-").button(id::speedDown);
+    play(script.check([] { EXPECT_TRUE(speedStands("Slowest")); }).key("+").key("q"));
     EXPECT_EQ(prefs.GameSpeed, 1);
-    EXPECT_EQ(newestMessage(), "before");
-    EXPECT_FALSE(ui.messagePosted);
+    EXPECT_EQ(newestMessage(), "");
 }
 
 TEST_F(PrefsScreenTest, ADamagedSpeedCountsAsTheNearestEndUntilItIsChanged) {
     prefs.GameSpeed = 99;
-    play(Script().check([] { EXPECT_TRUE(speedStands("Mega fast")); }).key("+"));
+    play(Script().check([] { EXPECT_TRUE(speedStands("Mega fast")); }).key("+").key("q"));
     EXPECT_EQ(prefs.GameSpeed, 99);
-    play(Script().key("-"));
+    play(Script().key("-").key("q"));
     EXPECT_EQ(prefs.GameSpeed, 5);
     prefs.GameSpeed = -2147483647;
-    play(Script().check([] { EXPECT_TRUE(speedStands("Slowest")); }).key("+"));
+    play(Script().check([] { EXPECT_TRUE(speedStands("Slowest")); }).key("+").key("q"));
     EXPECT_EQ(prefs.GameSpeed, 1);
 }
 
 TEST_F(PrefsScreenTest, AKeyOfThePassInWhichAClickCompletesWaitsForTheNext) {
-    startScript(Script().press(done).then([](InputQueue& queue) {
+    play(Script().press({204, 346}).then([](InputQueue& queue) {
         buttonChanged(queue, false);
         keyTyped(queue, "-");
     }));
-    RunPreferencesScreen();
-    finishScript();
     EXPECT_EQ(prefs.GameSpeed, 6);
     EXPECT_EQ(readKey(), "-");
 }
