@@ -40,6 +40,7 @@ TEST_F(PlayTest, EveryScreenLooksAsItDid) {
         .check(frame("help"));
     script.key("q")
         .click(statsCell(keys))
+        .move(statsCell(lightningBolts))
         .click(statsCell(lightningBolts))
         .move(boardCell(4, 2))
         .check(frame("play"));
