@@ -130,10 +130,8 @@ int handleMouse() {
     if (pressedWidget == notPressed) {
         // A pointer outside presses nothing, so that the click with which it comes back is seen.
         if (outside || ignoreHold) return 0;
-        if (down)
-            press(mouse);
-        else
-            hover(mouse);
+        hover(mouse);  // also before a press, which may come to a new place at once
+        if (down) press(mouse);
         return 0;
     }
     if (down) return 0;
