@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace gloomdeck {
 
@@ -14,18 +15,25 @@ bool fileExists(const std::string& path);
 /// The path as the system writes it.
 std::string nativePath(std::string path);
 
-/// An open file; empty when it could not be opened.
+/// An open file: its contents as they are to be when it is closed. Not open while the path is empty.
 struct File {
-    void* handle = nullptr;
+    std::string path;
+    std::vector<char> contents;
+    std::size_t position = 0;
+    bool changed = false;
 };
 
-/// Opens for reading and writing, creating what does not exist; a file that may only be read opens for that.
-/// Where it cannot be opened the other operations do nothing.
+/// Opens for reading and writing; what does not exist is created when it is closed. Where it cannot be opened
+/// the other operations do nothing.
 File openFile(const std::string& path);
 
 /// Transfers at most count bytes at the current position; the answer is how many were.
 std::size_t readBytes(File& file, void* buffer, std::size_t count);
 std::size_t writeBytes(File& file, const void* buffer, std::size_t count);
+
+/// Brings what was written to the disk: a cut at any moment leaves the file wholly old or wholly new, where
+/// the folder takes a new file; where it takes none, the old file is written in place. A failure leaves the
+/// old file and reports nothing.
 void closeFile(File& file);
 
 }  // namespace gloomdeck
