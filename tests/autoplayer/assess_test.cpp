@@ -1,4 +1,4 @@
-// What a single cell is worth, by the state of the hero.
+// What cells are worth, by the state of the hero, and the choice among the columns.
 #include "autoplayer/autoplayer_table.h"
 #include "platform/geometry.h"
 #include "tests/autoplayer/autoplayer_test.h"
@@ -12,47 +12,41 @@ using namespace category;
 constexpr int subject = 3;  // the column of the cell under test
 constexpr int rival = 1;    // to the left, so that it wins every tie
 
+// {how much there is, what the cell is worth then, its category, not to be chosen}
+struct Step {
+    int amount;
+    int value;
+    int category;
+    bool refused = false;
+};
+
 struct Case {
     const char* name;
     enc::Code code;
     void (*prepare)();
-    int value;
-    int category;
-    bool allowed = true;
+    std::int32_t& (*resource)();
+    std::vector<Step> steps;
     int row = bottomRow;
 };
 
+template <int item>
+std::int32_t& of() {
+    return count(item);
+}
+std::int32_t& picks() { return level(lockpicking); }
+std::int32_t& theCell() { return cell(subject, bottomRow); }
+std::int32_t& theCellAbove() { return cell(subject, 5); }
+
 void nothing() {}
-template <int item, int n>
-void has() {
-    count(item) = n;
-}
-template <int skill, int n>
-void knows() {
-    level(skill) = n;
-}
-template <int power>
-void with() {
-    turnsLeft(power) = 1;
-}
-template <int n>
-void stunned() {
-    count(health) = n;
-    turnsLeft(stasis) = 1;
-}
-template <int n>
-void lockedIn() {
-    count(health) = n;
-    for (const int col : {2, 4}) cell(col, bottomRow) = enc::Door;
-    cell(subject, 5) = enc::Door;
-}
-template <int n>
-void besideHiddenCells() {
-    lockedIn<n>();
-    cell(2, bottomRow) = enc::Chest;
+void sight() { turnsLeft(magicSight) = 1; }
+void stunned() { turnsLeft(stasis) = 1; }
+void lockedIn() { cell(2, bottomRow) = cell(4, bottomRow) = cell(subject, 5) = enc::Door; }
+void besideHidden() {
+    lockedIn();
     cell(2, 3) = enc::HypnoEye;
+    cell(2, bottomRow) = enc::Chest;
 }
-void nothingToTeleportTo() {
+void nowhereToGo() {
     for (int col = 0; col < columnCount; ++col)
         for (int row = 0; row < bottomRow; ++row) cell(col, row) = enc::Door;
     for (int col = 0; col < columnCount; ++col)
@@ -61,113 +55,63 @@ void nothingToTeleportTo() {
 
 // clang-format off
 const Case cases[] = {
-    {"Gold", enc::Gold, nothing, 6, goodStuff},
-    {"Scroll", enc::Scroll, nothing, 8, goodStuff},
-    {"Empty", enc::Empty, nothing, 3, goodStuff},
-    {"Chest", enc::Chest, nothing, 9, goodStuff},
-    {"Fruit", enc::Fruit, nothing, 6, goodStuff},
-    {"Meat", enc::Meat, nothing, 8, goodStuff},
-    {"Book", enc::Book, nothing, 9, goodStuff},
+    {"Plain", enc::Empty, nothing, theCell, {{enc::Gold, 6, goodStuff}, {enc::Scroll, 8, goodStuff},
+        {enc::Empty, 3, goodStuff}, {enc::Chest, 9, goodStuff}, {enc::Fruit, 6, goodStuff},
+        {enc::Meat, 8, goodStuff}, {enc::Book, 9, goodStuff}, {enc::Flower, 7, fairlyEasy}}},
+    {"Sight", enc::Empty, sight, theCell,
+        {{enc::Cave, 20, fairlyEasy}, {enc::Darkness, 19, fairlyEasy}, {enc::Flower, 0, obstacle}}},
+    {"Cave", enc::Cave, nothing, of<torches>, {{1, -9, obstacle, true}, {2, -9, obstacle}, {9, -9, obstacle}, {10, -1, fairlyEasy}}},
+    {"Darkness", enc::Darkness, nothing, of<torches>, {{0, -9, obstacle, true}, {1, -9, obstacle}, {7, -9, obstacle}, {8, -1, fairlyEasy}}},
 
-    {"CaveUnderSight", enc::Cave, with<magicSight>, 20, fairlyEasy},
-    {"CaveTenTorches", enc::Cave, has<torches, 10>, -1, fairlyEasy},
-    {"CaveNineTorches", enc::Cave, has<torches, 9>, -9, obstacle},
-    {"CaveTwoTorches", enc::Cave, has<torches, 2>, -9, obstacle},
-    {"CaveOneTorch", enc::Cave, has<torches, 1>, -9, obstacle, false},
-    {"DarknessUnderSight", enc::Darkness, with<magicSight>, 19, fairlyEasy},
-    {"DarknessEightTorches", enc::Darkness, has<torches, 8>, -1, fairlyEasy},
-    {"DarknessSevenTorches", enc::Darkness, has<torches, 7>, -9, obstacle},
-    {"DarknessOneTorch", enc::Darkness, has<torches, 1>, -9, obstacle},
-    {"DarknessNoTorch", enc::Darkness, nothing, -9, obstacle, false},
+    {"BackpackKeys", enc::Backpack, [] { count(torches) = 8; }, of<keys>, {{7, 7, goodStuff}, {8, 4, goodStuff}}},
+    {"BackpackPicks", enc::Backpack, [] { count(torches) = 8; }, picks, {{1, 7, goodStuff}, {2, 4, goodStuff}}},
+    {"BackpackTorches", enc::Backpack, [] { count(keys) = 8; }, of<torches>, {{7, 7, goodStuff}, {8, 4, goodStuff}}},
+    {"LockedChestKeys", enc::LockedChest, nothing, of<keys>,
+        {{0, -10, obstacle, true}, {1, 1, obstacle}, {2, 8, fairlyEasy}, {7, 8, fairlyEasy}, {8, 10, goodStuff}}},
+    {"LockedChestPicks", enc::LockedChest, nothing, picks, {{1, 1, obstacle}, {9, 1, obstacle}, {10, 8, fairlyEasy}}},
+    {"DoorKeys", enc::Door, nothing, of<keys>, {{0, -14, obstacle, true}, {1, -9, obstacle}, {7, -9, obstacle}, {8, -1, fairlyEasy}}},
+    {"DoorPicks", enc::Door, nothing, picks, {{1, -9, obstacle}, {19, -9, obstacle}, {20, -1, fairlyEasy}}},
+    {"DoubleDoorKeys", enc::DoubleDoor, [] { level(lockpicking) = 1; }, of<keys>,
+        {{1, -15, obstacle, true}, {2, -10, obstacle}, {9, -10, obstacle}, {10, -1, fairlyEasy}}},
+    {"DoubleDoorPicks", enc::DoubleDoor, nothing, picks, {{2, -10, obstacle}, {24, -10, obstacle}, {25, -1, fairlyEasy}}},
 
-    {"BackpackPlain", enc::Backpack, nothing, 7, goodStuff},
-    {"BackpackKeysAndTorches", enc::Backpack, [] { count(keys) = count(torches) = 8; }, 4, goodStuff},
-    {"BackpackPicksAndTorches", enc::Backpack, [] { level(lockpicking) = 2; count(torches) = 8; }, 4, goodStuff},
-    {"BackpackFewKeys", enc::Backpack, [] { count(keys) = 7; level(lockpicking) = 1; count(torches) = 8; }, 7, goodStuff},
-    {"BackpackFewTorches", enc::Backpack, [] { count(keys) = 8; count(torches) = 7; }, 7, goodStuff},
+    {"Trap", enc::Trap, nothing, of<health>, {{-5, -10, obstacle}, {60, -10, obstacle}, {61, -2, fairlyEasy}}},
+    {"Skeleton", enc::Skeleton, nothing, of<health>, {{0, -15, obstacle, true}, {1, -10, obstacle}, {18, -10, obstacle}, {19, -2, fairlyEasy}}},
+    {"King", enc::SkeletonKing, nothing, of<health>, {{0, -15, obstacle, true}, {1, -9, obstacle}, {54, -9, obstacle}, {55, -1, fairlyEasy}}},
+    {"Eye", enc::HypnoEye, nothing, of<health>, {{0, -15, obstacle, true}, {1, -10, obstacle}, {50, -10, obstacle}, {51, -2, fairlyEasy}}},
+    {"FightersAbove", enc::Empty, nothing, theCellAbove,
+        {{enc::Skeleton, -10, obstacle, true}, {enc::SkeletonKing, -9, obstacle, true}, {enc::HypnoEye, -10, obstacle, true}}, 5},
 
-    {"LockedChestEightKeys", enc::LockedChest, has<keys, 8>, 10, goodStuff},
-    {"LockedChestTwoKeys", enc::LockedChest, has<keys, 2>, 8, fairlyEasy},
-    {"LockedChestGoodPicks", enc::LockedChest, knows<lockpicking, 10>, 8, fairlyEasy},
-    {"LockedChestOneKey", enc::LockedChest, has<keys, 1>, 1, obstacle},
-    {"LockedChestPoorPicks", enc::LockedChest, knows<lockpicking, 9>, 1, obstacle},
-    {"LockedChestOnePick", enc::LockedChest, knows<lockpicking, 1>, 1, obstacle},
-    {"LockedChestNothing", enc::LockedChest, nothing, -10, obstacle, false},
-    {"Flower", enc::Flower, nothing, 7, fairlyEasy},
-    {"FlowerUnderSight", enc::Flower, with<magicSight>, 0, obstacle},
+    {"GhostFree", enc::Ghost, nothing, of<health>, {{0, -20, grief}, {99, -20, grief}}},
+    {"GhostLockedIn", enc::Ghost, lockedIn, of<health>, {{0, -10, grief, true}, {6, -10, obstacle}, {7, -2, fairlyEasy}}},
+    {"GhostBesideHidden", enc::Ghost, besideHidden, of<health>, {{0, -20, grief, true}, {99, -20, grief}}},
+    {"GhostStunned", enc::Ghost, stunned, of<health>, {{0, -10, grief, true}, {6, -2, obstacle}, {7, 12, fairlyEasy}}},
 
-    {"DoorGoodPicks", enc::Door, knows<lockpicking, 20>, -1, fairlyEasy},
-    {"DoorEightKeys", enc::Door, has<keys, 8>, -1, fairlyEasy},
-    {"DoorPoorPicks", enc::Door, [] { level(lockpicking) = 19; count(keys) = 7; }, -9, obstacle},
-    {"DoorOneKey", enc::Door, has<keys, 1>, -9, obstacle},
-    {"DoorOnePick", enc::Door, knows<lockpicking, 1>, -9, obstacle},
-    {"DoorNothing", enc::Door, nothing, -14, obstacle, false},
-    {"DoubleDoorGoodPicks", enc::DoubleDoor, knows<lockpicking, 25>, -1, fairlyEasy},
-    {"DoubleDoorTenKeys", enc::DoubleDoor, has<keys, 10>, -1, fairlyEasy},
-    {"DoubleDoorPoorPicks", enc::DoubleDoor, [] { level(lockpicking) = 24; count(keys) = 9; }, -10, obstacle},
-    {"DoubleDoorTwoKeys", enc::DoubleDoor, has<keys, 2>, -10, obstacle},
-    {"DoubleDoorTwoPicks", enc::DoubleDoor, knows<lockpicking, 2>, -10, obstacle},
-    {"DoubleDoorOneOfEach", enc::DoubleDoor, [] { count(keys) = level(lockpicking) = 1; }, -15, obstacle, false},
+    {"ThievesStunned", enc::Empty, stunned, theCell, {{enc::Thief, 18, fairlyEasy}, {enc::MasterThief, 20, fairlyEasy}}},
+    {"ThievesStunnedAbove", enc::Empty, stunned, theCellAbove, {{enc::Thief, -20, fairlyEasy}, {enc::MasterThief, -18, fairlyEasy}}, 5},
+    {"Thief", enc::Thief, nothing, of<bombs>, {{0, -20, grief, true}, {1, -20, grief}}},
+    {"ThiefDebts", enc::Thief, [] { count(bombs) = 3; }, of<health>, {{-3, -20, grief, true}, {-2, -20, grief}}},
+    {"MasterThief", enc::MasterThief, nothing, of<health>, {{0, -18, grief, true}, {1, -18, grief}}},
 
-    {"TrapHealthy", enc::Trap, has<health, 61>, -2, fairlyEasy},
-    {"TrapWeak", enc::Trap, has<health, 60>, -10, obstacle},
-    {"TrapDead", enc::Trap, has<health, -5>, -10, obstacle},
-    {"SkeletonHealthy", enc::Skeleton, has<health, 19>, -2, fairlyEasy},
-    {"SkeletonWeak", enc::Skeleton, has<health, 18>, -10, obstacle},
-    {"SkeletonDead", enc::Skeleton, nothing, -15, obstacle, false},
-    {"SkeletonDeadAbove", enc::Skeleton, nothing, -10, obstacle, false, 5},
-    {"KingHealthy", enc::SkeletonKing, has<health, 55>, -1, fairlyEasy},
-    {"KingWeak", enc::SkeletonKing, has<health, 54>, -9, obstacle},
-    {"KingDead", enc::SkeletonKing, nothing, -15, obstacle, false},
-    {"KingDeadAbove", enc::SkeletonKing, nothing, -9, obstacle, false, 5},
-    {"EyeHealthy", enc::HypnoEye, has<health, 51>, -2, fairlyEasy},
-    {"EyeWeak", enc::HypnoEye, has<health, 50>, -10, obstacle},
-    {"EyeDead", enc::HypnoEye, nothing, -15, obstacle, false},
-    {"EyeDeadAbove", enc::HypnoEye, nothing, -10, obstacle, false, 5},
-
-    {"GhostFree", enc::Ghost, has<health, 99>, -20, grief},
-    {"GhostFreeDead", enc::Ghost, nothing, -20, grief},
-    {"GhostLockedInHealthy", enc::Ghost, lockedIn<7>, -2, fairlyEasy},
-    {"GhostLockedInWeak", enc::Ghost, lockedIn<6>, -10, obstacle},
-    {"GhostLockedInDead", enc::Ghost, lockedIn<0>, -10, grief, false},
-    {"GhostBesideHidden", enc::Ghost, besideHiddenCells<99>, -20, grief},
-    {"GhostBesideHiddenDead", enc::Ghost, besideHiddenCells<0>, -20, grief, false},
-    {"GhostStunnedHealthy", enc::Ghost, stunned<7>, 12, fairlyEasy},
-    {"GhostStunnedWeak", enc::Ghost, stunned<6>, -2, obstacle},
-    {"GhostStunnedDead", enc::Ghost, stunned<0>, -10, grief, false},
-
-    {"ThiefStunned", enc::Thief, stunned<0>, 18, fairlyEasy},
-    {"ThiefStunnedAbove", enc::Thief, stunned<9>, -20, fairlyEasy, true, 5},
-    {"ThiefFree", enc::Thief, has<bombs, 1>, -20, grief},
-    {"ThiefFreeAbove", enc::Thief, has<bombs, 1>, -20, grief, true, 5},
-    {"ThiefNothingToTake", enc::Thief, nothing, -20, grief, false},
-    {"ThiefDebtsOutweigh", enc::Thief, [] { count(bombs) = 3; count(health) = -3; }, -20, grief, false},
-    {"MasterThiefStunned", enc::MasterThief, stunned<0>, 20, fairlyEasy},
-    {"MasterThiefStunnedAbove", enc::MasterThief, stunned<9>, -18, fairlyEasy, true, 5},
-    {"MasterThiefFree", enc::MasterThief, has<health, 1>, -18, grief},
-    {"MasterThiefNothingToTake", enc::MasterThief, nothing, -18, grief, false},
-
-    {"FilthStunnedHealthy", enc::OozingFilth, stunned<31>, 16, fairlyEasy},
-    {"FilthStunnedWeak", enc::OozingFilth, stunned<30>, -10, obstacle},
-    {"FilthStunnedDead", enc::OozingFilth, stunned<0>, -20, grief, false},
-    {"FilthStunnedAbove", enc::OozingFilth, stunned<99>, -10, obstacle, true, 5},
-    {"FilthStunnedAboveDead", enc::OozingFilth, stunned<0>, -10, grief, false, 5},
-    {"FilthFree", enc::OozingFilth, has<health, 1>, -20, grief},
-    {"FilthFreeDead", enc::OozingFilth, nothing, -22, grief, false},
-    {"FilthFreeAbove", enc::OozingFilth, has<health, 1>, -10, grief, true, 5},
-    {"FilthFreeAboveDead", enc::OozingFilth, nothing, -10, grief, false, 5},
-    {"DemonStunnedHealthy", enc::Demon, stunned<66>, 15, fairlyEasy, false},
-    {"DemonStunnedWeak", enc::Demon, stunned<65>, -10, obstacle, false},
-    {"DemonStunnedDead", enc::Demon, stunned<0>, -20, grief, false},
-    {"DemonFree", enc::Demon, has<health, 1>, -20, grief},
-    {"DemonFreeDead", enc::Demon, nothing, -22, grief},
-    {"DemonFreeAboveDead", enc::Demon, nothing, -10, grief, true, 5},
-    {"DemonNowhereToGo", enc::Demon, [] { nothingToTeleportTo(); count(health) = 1; }, -20, grief},
-    {"DemonNowhereToGoDead", enc::Demon, nothingToTeleportTo, -22, grief, false},
+    {"Filth", enc::OozingFilth, nothing, of<health>, {{0, -22, grief, true}, {1, -20, grief}}},
+    {"FilthAbove", enc::OozingFilth, nothing, of<health>, {{0, -10, grief, true}, {1, -10, grief}}, 5},
+    {"FilthStunned", enc::OozingFilth, stunned, of<health>, {{0, -20, grief, true}, {30, -10, obstacle}, {31, 16, fairlyEasy}}},
+    {"FilthStunnedAbove", enc::OozingFilth, stunned, of<health>, {{0, -10, grief, true}, {99, -10, obstacle}}, 5},
+    {"Demon", enc::Demon, nothing, of<health>, {{0, -22, grief}, {1, -20, grief}}},
+    {"DemonAbove", enc::Demon, nothing, of<health>, {{0, -10, grief}}, 5},
+    {"DemonNowhereToGo", enc::Demon, nowhereToGo, of<health>, {{0, -22, grief, true}, {1, -20, grief}}},
+    {"DemonStunned", enc::Demon, stunned, of<health>, {{0, -20, grief, true}, {65, -10, obstacle, true}, {66, 15, fairlyEasy, true}}},
 };
 // clang-format on
 
-class AssessTest : public AutoplayerTest, public ::testing::WithParamInterface<Case> {};
+constexpr std::array switchOf{0, +goodStuffOn, +fairlyEasyOn, +obstaclesOn, +spellsSkillsOn, +griefOn};
+
+// What the assessment says of a cell, to be compared at once.
+using Verdict = std::array<int, 3>;
+Verdict verdictAt(const Assessment& assessment, int col, int row) {
+    const CellAssessment& a = assessment.at(col, row);
+    return {a.value, a.category, a.allowed};
+}
 
 // The one column that may be chosen beside a rival whose bottom tile is worth rivalValue, or -1. The rival
 // looks the same further up, so only the bottom values tell them apart.
@@ -180,57 +124,58 @@ int chosenBeside(Assessment assessment, int rivalValue) {
     return chooseColumn(assessment);
 }
 
-int bitOf(int category) {
-    switch (category) {
-        case fairlyEasy: return fairlyEasyBit;
-        case obstacle: return obstaclesBit;
-        case grief: return griefBit;
-        default: return goodStuffBit;
-    }
+/// The score of the first column by its values from the bottom up.
+int scoreOf(const std::array<int, rowCount>& fromBottom) {
+    Assessment assessment{};
+    for (int row = 0; row < rowCount; ++row)
+        assessment.at(0, row).value = fromBottom[static_cast<std::size_t>(bottomRow - row)];
+    return ColumnScore(assessment, 0);
 }
 
 }  // namespace
+
+class AssessTest : public AutoplayerTest, public ::testing::WithParamInterface<Case> {};
 
 TEST_P(AssessTest, DecidesTheChoice) {
     const Case& c = GetParam();
     board(subject, c.row) = c.code;
     c.prepare();
-    const Assessment assessment = assessNow();
-    const CellAssessment& cell = assessment.at(subject, c.row);
-    EXPECT_EQ(cell.value, c.value);
-    EXPECT_EQ(cell.category, c.category);
-    EXPECT_EQ(cell.allowed, c.allowed ? 1 : 0);
-    if (c.row != bottomRow) return;
-    setSwitches(1 << bitOf(c.category));
-    EXPECT_EQ(chosenBeside(assessment, c.value), rival);
-    EXPECT_EQ(chosenBeside(assessment, c.value - 1), c.allowed ? subject : rival);
-    setSwitches(switchCombinations - 1 - (1 << bitOf(c.category)));
-    EXPECT_EQ(chosenBeside(assessment, c.value - 1), none) << "its switch is off";
+    for (const Step& step : c.steps) {
+        SCOPED_TRACE(step.amount);
+        c.resource() = step.amount;
+        const Assessment assessment = assessNow();
+        EXPECT_EQ(verdictAt(assessment, subject, c.row),
+                  (Verdict{step.value, step.category, step.refused ? 0 : 1}));
+        if (c.row != bottomRow) continue;
+        const int itsSwitch = switchOf[static_cast<std::size_t>(step.category)];
+        allow(itsSwitch);
+        EXPECT_EQ(chosenBeside(assessment, step.value), rival);
+        EXPECT_EQ(chosenBeside(assessment, step.value - 1), step.refused ? rival : subject);
+        allow(everySwitchOn - itsSwitch);
+        EXPECT_EQ(chosenBeside(assessment, step.value - 1), none) << "its switch is off";
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Rules, AssessTest, ::testing::ValuesIn(cases),
                          [](const auto& test) { return std::string(test.param.name); });
 
 using AutoplayerAssessment = AutoplayerTest;
+using AutoplayerChoice = AutoplayerTest;
 
 TEST_F(AutoplayerAssessment, WhatCannotBeMetIsUnavailable) {
-    setSwitches(switchCombinations - 1);
-    fillColumn(1, enc::Chest);
+    for (const int col : {1, 2, 4}) fillColumn(col, enc::Chest);
     column(1).finished = 1;
     column(2).drawn = 55;  // The End lies in row 2
-    fillColumn(2, enc::Chest);
-    fillColumn(4, enc::Chest);
     board(4, 2) = enc::HypnoEye;
     const Assessment assessment = assessNow();
-    EXPECT_EQ(assessment.at(1, 6).category, unavailable);
-    EXPECT_EQ(assessment.at(1, 6).value, 0);
-    EXPECT_EQ(assessment.at(2, 1).category, unavailable);
-    EXPECT_EQ(assessment.at(2, 1).value, 0);
+    constexpr Verdict gone{0, unavailable, 0};
+    constexpr Verdict hidden{-100, unavailable, 0};
+    EXPECT_EQ(verdictAt(assessment, 1, 6), gone);
+    EXPECT_EQ(verdictAt(assessment, 2, 1), gone);
     EXPECT_EQ(assessment.at(2, 2).category, goodStuff);
     EXPECT_EQ(assessment.at(4, 2).category, obstacle) << "the eye itself is seen";
-    EXPECT_EQ(assessment.at(4, 3).category, unavailable);
-    EXPECT_EQ(assessment.at(4, 3).value, -100);
-    EXPECT_EQ(assessment.at(4, 6).value, -100);
+    EXPECT_EQ(verdictAt(assessment, 4, 3), hidden);
+    EXPECT_EQ(verdictAt(assessment, 4, 6), hidden);
     turnsLeft(magicSight) = 1;
     EXPECT_EQ(assessNow().at(4, 6).value, 9);
 }
@@ -238,42 +183,31 @@ TEST_F(AutoplayerAssessment, WhatCannotBeMetIsUnavailable) {
 TEST_F(AutoplayerAssessment, GoodStuffIsLeftAloneWhileAPowerIsWastedOnIt) {
     for (const int power : {magicSight, stasis, deflection}) {
         turnsLeft(power) = 1;
-        allow({goodStuffBit, obstaclesBit, griefBit, spellsSkillsBit});
+        allow(everySwitchOn - fairlyEasyOn);
         EXPECT_FALSE(CategoryEnabled(goodStuff));
-        allow({goodStuffBit, fairlyEasyBit});
+        allow(goodStuffOn + fairlyEasyOn);
         EXPECT_TRUE(CategoryEnabled(goodStuff));
         turnsLeft(power) = 0;
     }
-    allow({spellsSkillsBit});
-    EXPECT_TRUE(CategoryEnabled(spells));
-    setSwitches(switchCombinations - 1);
+    allow(everySwitchOn);
     EXPECT_FALSE(CategoryEnabled(unavailable));
 }
 
-TEST_F(AutoplayerAssessment, DamageIsReducedByDeflectionThenByToughness) {
-    EXPECT_EQ(ReduceDamage(60), 60);
+TEST_F(AutoplayerAssessment, DamageIsReducedByDeflectionThenByToughnessAndTwiceIfExpected) {
+    const auto shield = [](int tough, int deflected) {
+        level(toughness) = tough;
+        turnsLeft(deflection) = deflected;
+    };
     EXPECT_EQ(ReduceDamage(-4), 0);
-    level(toughness) = 15;
+    shield(15, 0);
     EXPECT_EQ(ReduceDamage(60), 58) << "58.5 goes to the even neighbour";
     EXPECT_EQ(ReduceDamage(61), 60) << "and so does 59.5";
-    level(toughness) = 5;
-    EXPECT_EQ(ReduceDamage(1), 0) << "0.5 goes down";
-    level(toughness) = 25;
-    turnsLeft(deflection) = 2;
+    shield(25, 2);
     EXPECT_EQ(ReduceDamage(20), 4) << "7 - 2.5";
     EXPECT_EQ(ReduceDamage(5), 0);
-    EXPECT_EQ(ReduceDamage(6), 0);
-}
-
-TEST_F(AutoplayerAssessment, ExpectedDamageIsReducedTwice) {
-    EXPECT_EQ(ExpectedDamage(monster::skeleton), 18);
-    EXPECT_EQ(ExpectedDamage(monster::skeletonKing), 54);
-    EXPECT_EQ(ExpectedDamage(monster::demon), 65);
-    level(toughness) = 25;
+    shield(25, 0);
     EXPECT_EQ(ExpectedDamage(monster::skeleton), 14) << "15.5 to 16, 13.5 to 14";
-    level(toughness) = 0;
-    turnsLeft(deflection) = 2;
-    EXPECT_EQ(ExpectedDamage(monster::skeleton), 2);
+    shield(0, 2);
     EXPECT_EQ(ExpectedDamage(monster::hypnoEye), 6) << "50 to 17 to 6";
 }
 
@@ -296,6 +230,50 @@ TEST_F(AutoplayerAssessment, AGhostIsTrappedByWallsAndPerhapsByWhatIsHidden) {
     column(4).drawn = 60;
     board(4, 3) = enc::Empty;
     EXPECT_EQ(TrapState(3, 3), 0) << "a cell past the end counts as open";
+}
+
+TEST_F(AutoplayerChoice, TheLookAheadFadesWithDistanceAndTheBottomTileDecidesTheSign) {
+    EXPECT_EQ(scoreOf({6, 9, -9, 3, 3, 3, 3}), 56);
+    EXPECT_EQ(scoreOf({-9, 6, 6, 6, 6, 6, 6}), -42);
+    EXPECT_EQ(scoreOf({1, 20, 20, 20, 20, 20, 20}), 7 + 40 + 38 + 18 + 17 + 16 + 15);
+    EXPECT_EQ(scoreOf({1, 2, 2, 2, 2, 2, 2}), 7 + 4 + 2 + 1 + 1 + 1 + 1) << "never faded below 1";
+    EXPECT_EQ(scoreOf({9, -2, -2, -2, -2, -2, -2}), 63 - 2 - 1 - 1 - 1 - 1 - 1) << "nor above -1";
+    EXPECT_EQ(scoreOf({0, 0, 5, 0, 0, 0, 0}), 8) << "zeros do not break the chain";
+    EXPECT_EQ(scoreOf({9, -1, 6, 0, 0, 0, 0}), 63 - 1 + 5) << "what stands on a bad tile is not doubled";
+    EXPECT_EQ(scoreOf({0, -9, -9, -9, -9, -9, -9}), 1);
+    EXPECT_EQ(scoreOf({-1, 20, 20, 20, 20, 20, 20}), -1);
+    board(0, 6) = enc::TheEnd;
+    EXPECT_EQ(scoreOf({0, 20, 20, 20, 20, 20, 20}), 0) << "above The End nothing counts";
+}
+
+TEST_F(AutoplayerChoice, OfEqualColumnsTheLeftmostIsTaken) {
+    allow(goodStuffOn);
+    EXPECT_EQ(chooseColumn(assessNow()), 0);
+    for (const int col : {2, 5}) board(col, 6) = enc::Gold;
+    EXPECT_EQ(chooseColumn(assessNow()), 2);
+    board(5, 0) = enc::Chest;
+    EXPECT_EQ(chooseColumn(assessNow()), 5);
+}
+
+TEST_F(AutoplayerChoice, AForbiddenTileHidesNoWorseOne) {
+    allow(obstaclesOn);
+    onlyColumns({3, 5});
+    board(3, 6) = enc::LockedChest;
+    board(5, 6) = enc::Trap;
+    EXPECT_EQ(chooseColumn(assessNow()), 5) << "nothing opens the chest";
+    count(keys) = 1;
+    EXPECT_EQ(chooseColumn(assessNow()), 3);
+}
+
+TEST_F(AutoplayerChoice, TheEndStandsBetweenWhatIsGoodAndWhatIsBad) {
+    allow(goodStuffOn + obstaclesOn);
+    onlyColumns({1, 3, 5});
+    for (const int col : {1, 5}) board(col, 6) = enc::Trap;
+    board(3, 6) = enc::TheEnd;
+    EXPECT_EQ(chooseColumn(assessNow()), 3);
+    fillColumn(5, enc::Trap);
+    board(5, 6) = enc::Empty;
+    EXPECT_EQ(chooseColumn(assessNow()), 5);
 }
 
 }  // namespace gloomdeck
