@@ -1,22 +1,15 @@
 #include "prefs/saved_data.h"
 
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <random>
 
-#include "tests/support/game_test.h"
+#include "tests/support/script.h"
 
 namespace gloomdeck {
 
 namespace {
 
 using namespace std::string_literals;
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string noise(std::size_t length) {
     static std::mt19937 random(2);
@@ -27,27 +20,24 @@ std::string noise(std::size_t length) {
 
 }  // namespace
 
-using SavedDataTest = GameTest;
+using SavedDataTest = PlayTest;
 
 TEST_F(SavedDataTest, AnyBytesAreReadAndWrittenBackAndLongFilesKeepTheirTails) {
-    const std::string folder = makeProgramFolder();
-    const std::string gameFile = folder + "/Data/DGDP.dat";
-    const std::string prefsFile = folder + "/Data/DGDG.dat";
     script::setFolder(folder);
     for (const std::size_t length : {0U, 1U, 51U, 52U, 53U, 483U, 484U, 600U}) {
         SCOPED_TRACE(length);
-        std::string gameBytes = noise(length);
-        std::string prefsBytes = noise(length);
-        std::ofstream(gameFile, std::ios::binary) << gameBytes;
-        std::ofstream(prefsFile, std::ios::binary) << prefsBytes;
+        std::string gameFile = noise(length);
+        std::string prefsFile = noise(length);
+        writeDataFile("DGDP.dat", gameFile);
+        writeDataFile("DGDG.dat", prefsFile);
         game.inventory.fill(9);
         prefs.heroName.fill('x');
         EXPECT_EQ(LoadSavedData(), 1);
         SaveData();
-        gameBytes.resize(std::max(length, sizeof game));
-        prefsBytes.resize(std::max(length, sizeof prefs));
-        EXPECT_EQ(bytesOf(gameFile), gameBytes);
-        EXPECT_EQ(bytesOf(prefsFile), prefsBytes.replace(8, 4, 4, '\0')) << "the reserved field is cleared";
+        gameFile.resize(std::max(length, sizeof game));  // zero where the file was too short
+        prefsFile.resize(std::max(length, sizeof prefs));
+        EXPECT_EQ(dataFile("DGDP.dat"), gameFile);
+        EXPECT_EQ(dataFile("DGDG.dat"), prefsFile.replace(8, 4, 4, '\0')) << "the reserved field is cleared";
     }
 }
 

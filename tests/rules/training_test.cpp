@@ -27,8 +27,9 @@ TEST_F(TrainingTest, EveryRowSellsItsOwnGoodsForExactlyItsPrice) {
     count(health) = -7;
     int row = 0;
     for (const auto& [goods, price, amount] :
-         {std::tuple{&level(0), 50, 5}, std::tuple{&level(1), 15, 5}, std::tuple{&level(2), 60, 5},
-          std::tuple{&level(3), 30, 5}, std::tuple{&level(4), 45, 5}, std::tuple{&level(5), 20, 5},
+         {std::tuple{&level(lockpicking), 50, 5}, std::tuple{&level(thiefProtection), 15, 5},
+          std::tuple{&level(shieldBoost), 60, 5}, std::tuple{&level(lightningBoost), 30, 5},
+          std::tuple{&level(sunBoost), 45, 5}, std::tuple{&level(toughness), 20, 5},
           std::tuple{&count(keys), 10, 1}, std::tuple{&count(torches), 10, 1},
           std::tuple{&count(health), 10, 5}}) {
         count(gold) = price - 1;
@@ -56,16 +57,6 @@ TEST_F(TrainingTest, ASkillIsTrainedUpToNinetyFiveAndNotAtAllAboveNinety) {
     visit({0, 6});
     EXPECT_EQ(level(lockpicking), 5) << "a later visit shows the button again";
     EXPECT_EQ(count(keys), 0) << "there is no trading";
-}
-
-TEST_F(TrainingTest, TheGoldPictureMayAllowOnlyTradingOrNothing) {
-    count(gold) = 100;
-    itemType(gold).tile = tile::goldTrading;
-    visit({0, 6});
-    itemType(gold).tile = tile::gold;
-    visit({0, 6}, "You can't trade or train here");
-    EXPECT_EQ(level(lockpicking), 0);
-    EXPECT_EQ(count(keys), 1);
 }
 
 }  // namespace gloomdeck
