@@ -1,175 +1,118 @@
-// Locks, torches, damage and theft.
+// Locks, damage and theft.
 #include "rules/costs.h"
 
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
 
-namespace {
+using CostsTest = RuleTest;
 
-class LockTest : public RuleTest {};
-class DamageTest : public RuleTest {};
-class TheftTest : public RuleTest {};
-
-}  // namespace
-
-TEST_F(LockTest, IsPickedForFreeElseTakesItsKeysSilently) {
-    level(lockpicking) = 30;
-    count(keys) = 3;
-    rolls({{100, 31}, {100, 16}});
-    EXPECT_EQ(OpenLock(1), 1);
-    EXPECT_EQ(count(keys), 2);
-    EXPECT_EQ(OpenLock(2), 1);
-    EXPECT_EQ(count(keys), 0);
-    EXPECT_EQ(newestMessage(), "");
-    count(keys) = 2;
-    rolls({{100, 30}, {100, 15}});
-    EXPECT_EQ(OpenLock(1), 1);
-    EXPECT_EQ(OpenLock(2), 1);
-    EXPECT_EQ(count(keys), 2);
-    EXPECT_EQ(newestMessage(), "You picked the lock!");
-    EXPECT_TRUE(ui.messagePosted);
-    EXPECT_EQ(game.turns, 0);
+TEST_F(CostsTest, ALockIsPickedForFreeElseTakesItsKeysSilentlyElseTheSkillTriesAgain) {
+    struct Lock {
+        int keysNeeded, skill, keysOwned;
+        std::vector<int> drawn;
+        int opened, keysLeft;
+        const char* said;
+    };
+    // clang-format off
+    const std::vector<Lock> locks{
+        {1, 30, 2, {30},      1, 2, "You picked the lock!"},
+        {1, 30, 2, {31},      1, 1, ""},
+        {2, 30, 2, {15},      1, 2, "You picked the lock!"},
+        {2, 30, 2, {16},      1, 0, ""},
+        {1,  1, 0, {2, 1},    1, 0, "Picked lock in 2 tries."},
+        {2,  2, 1, {2, 2, 1}, 1, 1, "Picked lock in 3 tries."},
+        {2,  1, 1, {1},       0, 1, "2 Keys needed."},
+    };
+    // clang-format on
+    for (const Lock& lock : locks) {
+        clearMessages();
+        ui.messagePosted = false;
+        level(lockpicking) = lock.skill;
+        count(keys) = lock.keysOwned;
+        game.turns = 10;
+        for (const int roll : lock.drawn) rolls({{100, roll}});
+        EXPECT_EQ(OpenLock(lock.keysNeeded), lock.opened);
+        EXPECT_EQ(count(keys), lock.keysLeft) << lock.said;
+        EXPECT_EQ(newestMessage(), lock.said);
+        EXPECT_EQ(ui.messagePosted, lock.opened && !newestMessage().empty());
+        EXPECT_EQ(game.turns, 9 + static_cast<int>(lock.drawn.size()));
+    }
 }
 
-TEST_F(LockTest, EachFurtherTryCostsATurnOfThePowersAndTheCounterAndNothingElse) {
+TEST_F(CostsTest, AFurtherTryCostsATurnOfThePowersAndShowsTheEyesThatSightNoLongerPierces) {
     game.skills = {2, 0, 0, 0, 0, 95};
-    game.powers = {0, 5, 1};
-    count(keys) = 1;
-    game.turns = 10;
-    rolls({{100, 2}, {100, 2}, {100, 1}});
-    EXPECT_EQ(OpenLock(2), 1);
-    EXPECT_EQ(count(keys), 1);
-    EXPECT_EQ(count(health), 0);
-    EXPECT_EQ(game.turns, 12);
-    EXPECT_EQ(game.powers, (std::array<std::int32_t, 4>{0, 3, 0, 0}));
-    EXPECT_EQ(newestMessage(), "Picked lock in 3 tries.");
-    EXPECT_TRUE(ui.messagePosted);
-}
-
-TEST_F(LockTest, ASkillBelowTheLockIsRefused) {
-    level(lockpicking) = 1;
-    count(keys) = 1;
-    rolls({{100, 1}});
-    EXPECT_EQ(OpenLock(2), 0);
-    EXPECT_EQ(newestMessage(), "2 Keys needed.");
-    count(keys) = 0;
-    rolls({{100, 2}, {100, 1}});
-    EXPECT_EQ(OpenLock(1), 1);
-    EXPECT_EQ(newestMessage(), "Picked lock in 2 tries.");
-}
-
-TEST_F(LockTest, SightThatEndsWhilePickingShowsTheEyesBeforeTheNextTry) {
-    level(lockpicking) = 50;
-    turnsLeft(magicSight) = 1;
+    game.powers = {1, 5, 1};
     board(0, 0) = enc::HypnoEye;
-    rolls({{100, 51}, {30, 30}, {100, 50}});
-    EXPECT_EQ(OpenLock(1), 1);
-    EXPECT_EQ(newestMessage(), "Picked lock in 2 tries.");
+    rolls({{100, 2}, {30, 30}, {100, 2}, {100, 1}});
+    EXPECT_EQ(OpenLock(2), 1);
+    EXPECT_EQ(game.powers, (Powers{0, 3}));
+    EXPECT_EQ(count(health), 0) << "toughness does not heal meanwhile";
     EXPECT_TRUE(beamEnds(0, 30));
 }
 
-TEST_F(LockTest, TorchesAreNotSpentUnlessThereAreEnough) {
-    count(torches) = 1;
-    EXPECT_EQ(UseTorches(2), 0);
-    EXPECT_EQ(newestMessage(), "2 Torches needed.");
-    EXPECT_EQ(UseTorches(1), 1);
-    EXPECT_EQ(UseTorches(1), 0);
-    EXPECT_EQ(newestMessage(), "1 Torch needed.");
-}
-
-TEST_F(DamageTest, ARequiredHitNeedsHealthAboveItsThresholdButMayTakeItBelowNothing) {
-    count(health) = 7;
-    EXPECT_EQ(TakeDamage(5, 1, 7), 0);
-    EXPECT_EQ(newestMessage(), "Need health above 7.");
-    rolls({{100, 1}});
-    EXPECT_EQ(TakeDamage(10, 1, 6), 1);
-    EXPECT_EQ(count(health), -3);
-}
-
-TEST_F(DamageTest, DeflectionLeavesAThirdAndAtLeastOneOfAFight) {
+TEST_F(CostsTest, DeflectionLeavesAThirdOfAHitToughnessStopsATenthOfItsMarginAndARefusalIsSaidAlone) {
     struct Hit {
-        int amount;
-        int required;
-        int left;
+        int amount, required, threshold;
+        int health, toughness, deflection;
+        int roll;  // 0: none is drawn
+        int taken, left;
+        const char* said;
     };
-    turnsLeft(deflection) = 1;
-    for (const Hit hit : {Hit{1, 1, 1}, {4, 1, 1}, {5, 1, 2}, {7, 0, 2}, {8, 0, 3}, {2, 0, 1}}) {
-        count(health) = 10;
-        rolls({{100, 1}});
-        EXPECT_EQ(TakeDamage(hit.amount, hit.required, 0), 1);
-        EXPECT_EQ(count(health), 10 - hit.left) << hit.amount;
-    }
-    EXPECT_EQ(newestMessage(), "Deflection reduces damage.");
-    EXPECT_TRUE(ui.messagePosted);
-}
-
-TEST_F(DamageTest, DeflectionSaysNothingOfAFightThatIsRefused) {
-    turnsLeft(deflection) = 1;
-    EXPECT_EQ(TakeDamage(9, 1, 0), 0);
-    EXPECT_EQ(newestMessage(), "Need health above 0.");
-    EXPECT_EQ(messageBar.lines[1], "");
-    rolls({{100, 1}});
-    EXPECT_EQ(TakeDamage(9, 0, 0), 1);
-    EXPECT_EQ(newestMessage(), "Deflection reduces damage.");
-}
-
-TEST_F(DamageTest, ToughnessStopsATenthOfItsMarginAndOneHalvesToEven) {
-    struct Hit {
-        int skill;
-        int roll;
-        int stopped;
+    // clang-format off
+    const std::vector<Hit> hits{
+        { 5, 1, 7,   7,  0, 0,   0,  0,  7, "Need health above 7.|"},
+        {10, 1, 6,   7,  0, 0,   1,  1, -3, "|"},
+        { 1, 1, 0,  10,  0, 1,   1,  1,  9, "Deflection reduces damage.|"},
+        { 4, 1, 0,  10,  0, 1,   1,  1,  9, "Deflection reduces damage.|"},
+        { 5, 1, 0,  10,  0, 1,   1,  1,  8, "Deflection reduces damage.|"},
+        { 7, 0, 0,  10,  0, 1,   1,  1,  8, "Deflection reduces damage.|"},
+        { 8, 0, 0,  10,  0, 1,   1,  1,  7, "Deflection reduces damage.|"},
+        { 1, 0, 0,  10, 95, 1,   0,  1, 10, "Deflection stops all damage.|"},
+        { 9, 1, 0,   0,  0, 1,   0,  0,  0, "Need health above 0.|"},
+        { 9, 0, 0,   0,  0, 1,   1,  1, -3, "Deflection reduces damage.|"},
+        {12, 1, 0,  50, 30, 0,  31,  1, 38, "|"},
+        {12, 1, 0,  50, 30, 0,  30,  1, 39, "Toughness stops 1 points.|"},
+        {12, 1, 0,  50, 30, 0,  25,  1, 40, "Toughness stops 2 points.|"},  // halves go to even
+        {12, 1, 0,  50, 30, 0,  15,  1, 40, "Toughness stops 2 points.|"},
+        {12, 1, 0,  50, 95, 0,   1,  1, 48, "Toughness stops 10 points.|"},
+        {10, 1, 0,   5, 95, 1,  65,  1,  5, "Toughness stops all loss.|Deflection reduces damage."},
     };
-    for (const Hit hit : {Hit{30, 31, 0}, {30, 30, 1}, {30, 25, 2}, {30, 15, 2}, {30, 5, 4}, {95, 1, 10}}) {
+    // clang-format on
+    for (const Hit& hit : hits) {
+        SCOPED_TRACE(&hit - hits.data());
         clearMessages();
-        count(health) = 50;
-        level(toughness) = hit.skill;
-        rolls({{100, hit.roll}});
-        EXPECT_EQ(TakeDamage(12, 1, 0), 1);
-        EXPECT_EQ(count(health), 38 + hit.stopped) << hit.roll;
-        const std::string said = "Toughness stops " + std::to_string(hit.stopped) + " points.";
-        EXPECT_EQ(newestMessage(), hit.stopped == 0 ? "" : said);
+        ui.messagePosted = false;
+        count(health) = hit.health;
+        level(toughness) = hit.toughness;
+        turnsLeft(deflection) = hit.deflection;
+        if (hit.roll != 0) rolls({{100, hit.roll}});
+        EXPECT_EQ(TakeDamage(hit.amount, hit.required, hit.threshold), hit.taken);
+        EXPECT_EQ(leftoverRolls(), 0);
+        EXPECT_EQ(count(health), hit.left);
+        EXPECT_EQ(messagesShown(), hit.said);
+        EXPECT_EQ(ui.messagePosted, hit.taken && !newestMessage().empty());
     }
-    EXPECT_TRUE(ui.messagePosted);
 }
 
-TEST_F(DamageTest, ToughnessComesAfterDeflectionAndNeverHeals) {
-    count(health) = 5;
-    level(toughness) = 95;
-    turnsLeft(deflection) = 1;
-    rolls({{100, 65}});
-    EXPECT_EQ(TakeDamage(10, 1, 0), 1);
-    EXPECT_EQ(newestMessage(), "Toughness stops all loss.");
-    EXPECT_EQ(messageBar.lines[1], "Deflection reduces damage.");
-    EXPECT_EQ(count(health), 5);
-}
-
-TEST_F(TheftTest, ProtectionHoldsUpToItsLevel) {
+TEST_F(CostsTest, ProtectionHoldsUpToItsLevelAndAThiefTakesOneOrTwoOfWhatThereIs) {
     level(thiefProtection) = 40;
     count(keys) = 3;
     rolls({{100, 40}});
     EXPECT_EQ(Steal(1), 1);
-    EXPECT_EQ(count(keys), 3);
     EXPECT_EQ(newestMessage(), "The thief ignores you.");
     EXPECT_TRUE(ui.messagePosted);
-    rolls({{100, 41}, {9, 1}, {100, 33}});
-    EXPECT_EQ(Steal(1), 1);
-    EXPECT_EQ(count(keys), 1);
-}
-
-TEST_F(TheftTest, HealthCountsInTheTotalWithItsSignAndIsTakenOnlyWhereThereIsSome) {
-    count(keys) = 3;
     count(health) = -3;
-    EXPECT_EQ(Steal(0), 0);
+    EXPECT_EQ(Steal(0), 0) << "health counts with its sign";
     EXPECT_EQ(newestMessage(), "Need total stats above 0.");
     count(health) = -2;
-    rolls({{9, 9}, {9, 2}, {9, 1}, {100, 34}});
-    EXPECT_EQ(Steal(0), 1);
-    EXPECT_EQ(count(keys), 2);
-    game.inventory = {0, 0, 0, 0, 0, 0, 0, 0, 1};
-    rolls({{9, 9}});
-    EXPECT_EQ(Steal(0), 1);
-    EXPECT_EQ(count(health), 0);
+    rolls({{100, 41}, {9, 9}, {9, 2}, {9, 1}, {100, 33}});
+    EXPECT_EQ(Steal(1), 1);
+    EXPECT_EQ(count(keys), 1);
+    count(health) = 2;
+    rolls({{9, 9}, {100, 34}, {9, 9}});
+    EXPECT_EQ(Steal(0) + Steal(0), 2);
+    EXPECT_EQ(game.inventory, Inventory{1}) << "the last of a kind is taken without a second roll";
 }
 
 }  // namespace gloomdeck

@@ -1,93 +1,87 @@
 // Meeting tiles: what each costs, gives and leaves.
 #include "rules/encounter.h"
 
-#include <cstring>
-
-#include "rules/loot.h"
+#include "rules/clear_cell.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
 
-namespace {
-
-class EncounterTest : public RuleTest {};
-
-using Inventory = std::array<std::int32_t, 10>;
-
-}  // namespace
+using EncounterTest = RuleTest;
 
 TEST_F(EncounterTest, ARefusalSpendsNothingAndSaysWhy) {
     struct Refusal {
         enc::Code code;
+        Inventory owned;
         std::vector<FedRoll> drawn;
         const char* why;
     };
+    // clang-format off
     const std::vector<Refusal> refusals{
-        {enc::Door, {{100, 1}}, "1 Key needed."},
-        {enc::DoubleDoor, {{100, 1}}, "2 Keys needed."},
-        {enc::LockedChest, {{100, 1}}, "1 Key needed."},
-        {enc::Darkness, {}, "1 Torch needed."},
-        {enc::Cave, {}, "2 Torches needed."},
-        {enc::Thief, {}, "Need total stats above 0."},
-        {enc::MasterThief, {}, "Need total stats above 0."},
-        {enc::Skeleton, {{6, 6}}, "Need health above 0."},
-        {enc::OozingFilth, {{3, 3}}, "Need health above 0."},
-        {enc::SkeletonKing, {{6, 1}, {6, 1}, {6, 1}}, "Need health above 0."},
-        {enc::HypnoEye, {{6, 1}, {6, 1}}, "Need health above 0."},
-        {enc::Ghost, {{100, 50}, {2, 2}}, "Need health above 0."},
-        {enc::Demon, {{10, 1}}, "Need health above 0."},
+        {enc::Door,         {},     {{100, 1}},               "1 Key needed."},
+        {enc::DoubleDoor,   {1},    {{100, 1}},               "2 Keys needed."},
+        {enc::LockedChest,  {},     {{100, 1}},               "1 Key needed."},
+        {enc::Darkness,     {},     {},                       "1 Torch needed."},
+        {enc::Cave,         {0, 1}, {},                       "2 Torches needed."},
+        {enc::Thief,        {},     {},                       "Need total stats above 0."},
+        {enc::Skeleton,     {},     {{6, 6}},                 "Need health above 0."},
+        {enc::OozingFilth,  {},     {{3, 3}},                 "Need health above 0."},
+        {enc::SkeletonKing, {},     {{6, 1}, {6, 1}, {6, 1}}, "Need health above 0."},
+        {enc::HypnoEye,     {},     {{6, 1}, {6, 1}},         "Need health above 0."},
+        {enc::Ghost,        {},     {{100, 50}, {2, 2}},      "Need health above 0."},
+        {enc::Demon,        {},     {{10, 1}},                "Need health above 0."},
     };
+    // clang-format on
     for (const Refusal& refusal : refusals) {
         turnsLeft(stasis) = refusal.code == enc::Ghost || refusal.code == enc::Demon ? 1 : 0;
+        game.inventory = refusal.owned;
         board(3, 6) = refusal.code;
-        const GameState before = game;
+        const std::string before = gameBytes();
         EXPECT_EQ(meet(refusal.code, refusal.drawn), 0);
-        EXPECT_EQ(std::memcmp(&before, &game, sizeof game), 0) << refusal.why;
+        EXPECT_EQ(gameBytes(), before) << refusal.why;
         EXPECT_EQ(newestMessage(), refusal.why);
     }
     EXPECT_FALSE(ui.messagePosted);
+    EXPECT_EQ(meet(enc::Trap, {{20, 20}, noToughness, doorDealt}), 1);
+    EXPECT_EQ(count(health), -20) << "a trap asks for no health";
 }
 
-TEST_F(EncounterTest, WhatIsOnlyTakenGivesWhatItRollsInOrder) {
-    struct Gain {
+TEST_F(EncounterTest, WhatIsPaidForChangesTheHeroByWhatItRollsInOrder) {
+    struct Meeting {
         enc::Code code;
         std::vector<FedRoll> drawn;
-        Inventory owned;  // by a hero who had one key
+        Inventory owned;  // by a hero who had one key and one health
     };
-    const std::vector<Gain> gains{
-        {enc::Gold, {{10, 10}}, {1, 0, 10}},
-        {enc::Fruit, {{6, 5}}, {1, 0, 0, 0, 0, 0, 0, 0, 5}},
-        {enc::Meat, {{6, 6}, {6, 1}, {6, 4}}, {1, 0, 0, 0, 0, 0, 0, 0, 11}},
-        {enc::Backpack, {{100, 50}, {100, 50}}, {1, 1}},
-        {enc::Backpack, {{100, 50}, {100, 51}}, {2, 0}},
-        {enc::Backpack, {{100, 51}, {100, 50}}, {1, 3}},
-        {enc::Backpack, {{100, 70}, {100, 51}}, {4, 0}},
-        {enc::Backpack, {{100, 71}}, {2, 1}},
-        {enc::Chest, {{10, 9}, {100, 60}, {100, 90}, {7, 5}, {6, 2}}, {4, 0, 9, 0, 0, 0, 1, 0, 2}},
-        {enc::LockedChest,
-         {{100, 5}, {10, 9}, {10, 4}, {100, 80}, {7, 3}, {6, 6}, {6, 5}, {6, 1}},
-         {1, 1, 13, 0, 1, 0, 0, 0, 12}},
-        {enc::Flower, {{6, 6}, {2, 1}}, {1, 0, 0, 0, 0, 0, 0, 0, 1}},
+    // clang-format off
+    const std::vector<Meeting> meetings{
+        {enc::Gold,     {{10, 10}},                     {1, 0, 10, 0, 0, 0, 0, 0, 1}},
+        {enc::Fruit,    {{6, 5}},                       {1, 0,  0, 0, 0, 0, 0, 0, 6}},
+        {enc::Meat,     {{6, 6}, {6, 1}, {6, 4}},       {1, 0,  0, 0, 0, 0, 0, 0, 12}},
+        {enc::Flower,   {{6, 6}, {2, 1}},               {1, 0,  0, 0, 0, 0, 0, 0, 2}},
+        {enc::Backpack, {{100, 50}, {100, 50}},         {1, 1,  0, 0, 0, 0, 0, 0, 1}},
+        {enc::Backpack, {{100, 70}, {100, 51}},         {4, 0,  0, 0, 0, 0, 0, 0, 1}},
+        {enc::Backpack, {{100, 71}},                    {2, 1,  0, 0, 0, 0, 0, 0, 1}},
+        {enc::Chest,    {{10, 9}, {100, 60}, {100, 90}, {7, 5}, {6, 2}},
+                                                        {4, 0,  9, 0, 0, 0, 1, 0, 3}},
+        {enc::LockedChest, {{100, 5}, {10, 9}, {10, 4}, {100, 80}, {7, 3}, {6, 6}, {6, 5}, {6, 1}},
+                                                        {1, 1, 13, 0, 1, 0, 0, 0, 13}},
+        {enc::Skeleton,    {{6, 4},          noToughness}, {1, 0, 0, 0, 0, 0, 0, 0, -3}},
+        {enc::Ghost,       {{100, 1}, {2, 2}, noToughness}, {1, 0, 0, 0, 0, 0, 0, 0, -1}},
+        {enc::OozingFilth, {{3, 3},          noToughness}, {1, 0, 0, 0, 0, 0, 0, 0, -5}},
+        {enc::HypnoEye,    {{6, 6}, {6, 1},  noToughness}, {1, 0, 0, 0, 0, 0, 0, 0, -8}},
+        {enc::Demon,       {{10, 10},        noToughness}, {1, 0, 0, 0, 0, 0, 0, 0, -14}},
+        {enc::MasterThief, {},                             {1, 0, 0, 0, 0, 0, 0, 0, 1}},
     };
-    for (Gain gain : gains) {
-        game.inventory = {1};
-        gain.drawn.push_back(doorDealt);
-        EXPECT_EQ(meet(gain.code, gain.drawn), 1);
-        EXPECT_EQ(game.inventory, gain.owned) << encounterType(gain.code).name;
+    // clang-format on
+    turnsLeft(stasis) = 1;
+    for (Meeting meeting : meetings) {
+        game.inventory = {1, 0, 0, 0, 0, 0, 0, 0, 1};
+        meeting.drawn.push_back(doorDealt);
+        EXPECT_EQ(meet(meeting.code, meeting.drawn), 1);
+        EXPECT_EQ(game.inventory, meeting.owned) << encounterType(meeting.code).name;
         EXPECT_TRUE(advanced());
     }
     EXPECT_EQ(turnsLeft(magicSight), 8);
     EXPECT_FALSE(ui.messagePosted);
-}
-
-TEST_F(EncounterTest, AScrollGivesTheSpellOfItsRoll) {
-    int roll = 0;
-    for (const Item spell : {shields, lightningBolts, lightningBolts, suns, bombs, shields, suns}) {
-        game.inventory = {};
-        rolls({{7, ++roll}});
-        takeScrollContents();
-        EXPECT_TRUE(count(spell) == 1 && TotalStats() == 1) << roll;
-    }
 }
 
 TEST_F(EncounterTest, ABookAlwaysDrawsBothBonusesAndNamesTheSkill) {
@@ -95,41 +89,10 @@ TEST_F(EncounterTest, ABookAlwaysDrawsBothBonusesAndNamesTheSkill) {
     EXPECT_EQ(meet(enc::Book, {{6, 1}, {100, 34}, {100, 17}, doorDealt}), 1);
     EXPECT_EQ(newestMessage(), "+1% Lockpicking");
     EXPECT_EQ(meet(enc::Book, {{6, 6}, {100, 33}, {100, 17}, doorDealt}), 1);
-    EXPECT_EQ(newestMessage(), "+2% Toughness");
     EXPECT_EQ(meet(enc::Book, {{6, 5}, {100, 33}, {100, 16}, doorDealt}), 1);
-    EXPECT_EQ(newestMessage(), "+3% Sun boost");
-    EXPECT_EQ(game.skills, (std::array<std::int32_t, 7>{1, 0, 0, 0, 95, 2, 0}));
+    EXPECT_EQ(messagesShown(), "+3% Sun boost|+2% Toughness");
+    EXPECT_EQ(game.skills, (Skills{1, 0, 0, 0, 95, 2}));
     EXPECT_TRUE(ui.messagePosted);
-}
-
-TEST_F(EncounterTest, FightsTakeTheirDiceAndBonus) {
-    struct Fight {
-        enc::Code code;
-        std::vector<FedRoll> drawn;
-        int damage;
-    };
-    const std::vector<Fight> fights{{enc::Skeleton, {{6, 4}}, 4},         {enc::Trap, {{20, 17}}, 17},
-                                    {enc::Ghost, {{100, 1}, {2, 2}}, 2},  {enc::OozingFilth, {{3, 3}}, 6},
-                                    {enc::HypnoEye, {{6, 6}, {6, 1}}, 9}, {enc::Demon, {{10, 10}}, 15}};
-    turnsLeft(stasis) = 1;
-    for (Fight fight : fights) {
-        count(health) = 1;
-        fight.drawn.insert(fight.drawn.end(), {noToughness, doorDealt});
-        EXPECT_EQ(meet(fight.code, fight.drawn), 1);
-        EXPECT_EQ(count(health), 1 - fight.damage) << encounterType(fight.code).name;
-        EXPECT_TRUE(advanced());
-    }
-}
-
-TEST_F(EncounterTest, ATrapHitsWithoutHealthAndDeflectionMayStopIt) {
-    count(health) = -4;
-    EXPECT_EQ(meet(enc::Trap, {{20, 20}, noToughness, doorDealt}), 1);
-    EXPECT_EQ(count(health), -24);
-    turnsLeft(deflection) = 1;
-    level(toughness) = 95;
-    EXPECT_EQ(meet(enc::Trap, {{20, 1}, doorDealt}), 1);
-    EXPECT_EQ(count(health), -24);
-    EXPECT_EQ(newestMessage(), "Deflection stops all damage.");
 }
 
 TEST_F(EncounterTest, TheKingsGoldAndTheEndHoldTheColumn) {
@@ -137,23 +100,10 @@ TEST_F(EncounterTest, TheKingsGoldAndTheEndHoldTheColumn) {
     EXPECT_EQ(meet(enc::SkeletonKing, {{6, 2}, {6, 3}, {6, 1}, noToughness}), 1);
     EXPECT_EQ(count(health), 14);
     EXPECT_EQ(board(3, 6), enc::Gold);
-    EXPECT_EQ(column(3).drawn, 0);
     EXPECT_EQ(meet(enc::TheEnd, {}), 1);
     EXPECT_EQ(column(3).finished, 1U);
     EXPECT_EQ(board(3, 6), enc::TheEnd);
     EXPECT_EQ(column(3).drawn, 0);
-}
-
-TEST_F(EncounterTest, FromAfarOnlyTheCellItselfChanges) {
-    for (const int row : {2, 6}) {
-        fillBoard(enc::Door);
-        board(3, row) = enc::Gold;
-        rolls({{10, 3}});
-        EXPECT_EQ(Encounter(3, row, 1), 1);
-        EXPECT_EQ(board(3, row), enc::Empty);
-        EXPECT_EQ(countOf(enc::Door), 48);
-        EXPECT_EQ(column(3).drawn, 0);
-    }
 }
 
 TEST_F(EncounterTest, AHiddenTileIsMetAndTheNewOneDealtBeforeTheEyesBeam) {
@@ -162,8 +112,7 @@ TEST_F(EncounterTest, AHiddenTileIsMetAndTheNewOneDealtBeforeTheEyesBeam) {
     EXPECT_EQ(count(gold), 3);
     EXPECT_EQ(board(3, 3), enc::HypnoEye);
     EXPECT_TRUE(advanced());
-    EXPECT_TRUE(shows({3, 0}, tile::door));
-    EXPECT_TRUE(shows({3, 6}, tile::cellar));
+    EXPECT_TRUE(shows({3, 0}, tile::door) && shows({3, 6}, tile::cellar));
 }
 
 TEST_F(EncounterTest, DarknessAndCaveTakeTheirTorchesUnlessSightSparesThem) {
@@ -179,26 +128,37 @@ TEST_F(EncounterTest, DarknessAndCaveTakeTheirTorchesUnlessSightSparesThem) {
     }
 }
 
-TEST_F(EncounterTest, ThievesStealUnlessStasisHoldsThem) {
+TEST_F(EncounterTest, AMasterThiefStealsThreeTimesAndKeepsWhatItTookBeforeItsRefusal) {
     level(thiefProtection) = 40;
-    game.inventory = {0, 0, 5, 0, 0, 1};
+    game.inventory = {1, 0, 3};
     EXPECT_EQ(meet(enc::Thief, {{100, 41}, {9, 3}, {100, 34}, doorDealt}), 1);
-    EXPECT_EQ(meet(enc::MasterThief, {{100, 41}, {9, 3}, {100, 33}, {100, 40}, {100, 41}, {9, 6}, doorDealt}),
-              1);
-    EXPECT_EQ(game.inventory, (Inventory{0, 0, 2, 0, 0, 0}));
-    turnsLeft(stasis) = 1;
-    EXPECT_EQ(meet(enc::Thief, {doorDealt}), 1);
-    EXPECT_EQ(meet(enc::MasterThief, {doorDealt}), 1);
-    EXPECT_TRUE(advanced());
-    EXPECT_EQ(count(gold), 2);
-}
-
-TEST_F(EncounterTest, AMasterThiefKeepsWhatItTookBeforeItsRefusal) {
-    count(keys) = 1;
-    EXPECT_EQ(meet(enc::MasterThief, {{100, 1}, {9, 1}}), 0);
-    EXPECT_EQ(count(keys), 0);
+    EXPECT_EQ(meet(enc::MasterThief, {{100, 40}, {100, 41}, {9, 3}, {100, 33}, {100, 40}, doorDealt}), 1);
+    EXPECT_EQ(game.inventory, Inventory{1});
+    EXPECT_EQ(meet(enc::MasterThief, {{100, 41}, {9, 1}}), 0);
+    EXPECT_EQ(game.inventory, Inventory{});
     EXPECT_EQ(board(3, 6), enc::MasterThief);
     EXPECT_EQ(messageBar.lines[1], "Need total stats above 0.") << "the third theft is tried too";
+}
+
+TEST_F(EncounterTest, OnlyCaveAndKingLeaveSomethingAndItIsRevealedUnlessHidden) {
+    constexpr int unrolled = 0;
+    prefs.GameSpeed = normalSpeed;
+    for (const int hidden : {0, 1}) {
+        board(1, 3) = hidden ? enc::HypnoEye : enc::Empty;
+        // clang-format off
+        for (const auto& [code, roll, left, isEmpty, revealed] : {
+            std::tuple{enc::Cave, 3, enc::Ghost, false, 1},  {enc::Cave, 10, enc::Empty, false, 1},
+                      {enc::Cave, 15, enc::Gold, false, 1},  {enc::SkeletonKing, unrolled, enc::Gold, false, 1},
+                      {enc::Door, unrolled, enc::Empty, true, 0}, {enc::TheEnd, unrolled, enc::TheEnd, false, 0}}) {
+            // clang-format on
+            const long slept = script::sleptMilliseconds();
+            board(1, 4) = code;
+            if (roll != unrolled) rolls({{15, roll}});
+            EXPECT_EQ(ClearCell(1, 4), isEmpty) << code;
+            EXPECT_EQ(board(1, 4), left) << code;
+            EXPECT_EQ(script::sleptMilliseconds() - slept, hidden ? 0 : revealed * 31 * 30) << code;
+        }
+    }
 }
 
 }  // namespace gloomdeck

@@ -1,14 +1,13 @@
-// Changes of the hero: the record, the highlights and what a sight that comes or goes redraws.
+// Changes of the hero: the record, its boxes on the frame, and what a sight that comes or goes redraws.
 #include "rules/hero.h"
 
+#include "platform/draw.h"
 #include "shell/board_view.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
 
 namespace {
-
-class HeroTest : public RuleTest {};
 
 class SightTest : public RuleTest {
   protected:
@@ -24,14 +23,16 @@ class SightTest : public RuleTest {
 
 }  // namespace
 
-TEST_F(HeroTest, ARowIsColouredByTheNetChangeOfTheTurn) {
+using HeroTest = RuleTest;
+
+TEST_F(HeroTest, AnItemIsColouredByItsNetChangeOfTheTurn) {
     AddItem(gold, 3);
     AddItem(gold, -3);
     EXPECT_EQ(countBox(gold), colour::yellow);
+    EXPECT_TRUE(textStandsAt(288, 116, "0 ", colour::black));
     AddItem(gold, -1);
     EXPECT_EQ(countBox(gold), colour::loss);
-    EXPECT_EQ(count(gold), -1);
-    EXPECT_EQ(itemType(gold).highlightTurns, 2);
+    EXPECT_TRUE(textStandsAt(288, 116, "-1 ", colour::text));
     itemType(gold).highlightTurns = 1;
     AddItem(gold, 0);
     EXPECT_EQ(countBox(gold), colour::slate);
@@ -44,20 +45,36 @@ TEST_F(HeroTest, ASkillIsClampedAndColouredByItsChange) {
     ChangeSkill(toughness, 10);
     EXPECT_EQ(level(toughness), 95);
     EXPECT_EQ(skillBox(health), colour::yellow);
-    ChangeSkill(toughness, -1);
-    EXPECT_EQ(level(toughness), 94);
-    EXPECT_EQ(skillBox(health), colour::loss);
-    EXPECT_EQ(skillType(toughness).highlightTurns, 2);
+    EXPECT_TRUE(textStandsAt(366, 308, "95%", colour::black));
     skillType(toughness).highlightTurns = 1;
     ChangeSkill(toughness, 0);
     EXPECT_EQ(skillBox(health), colour::slate);
     EXPECT_EQ(skillType(toughness).highlightTurns, 1);
+    ChangeSkill(toughness, -97);
+    EXPECT_EQ(skillBox(health), colour::loss);
+    EXPECT_EQ(pixelAt(344, 312), colour::loss) << "nothing is shown of a skill of nothing";
+    EXPECT_TRUE(textStandsAt(366, 308, "   ", colour::text));
 }
 
-TEST_F(HeroTest, ATickTakesATurnOffActivePowersOnly) {
-    game.powers = {0, 3, -2, 7};
+TEST_F(HeroTest, ATickTakesATurnOffActivePowersAndClearsTheBoxOfOneThatIsOver) {
+    game.powers = {1, 3, -2, 7};
+    fillBox(0, 0, 407, 487, colour::red);
     PowersTick();
-    EXPECT_EQ(game.powers, (std::array<std::int32_t, 4>{0, 2, -2, 7}));
+    EXPECT_EQ(game.powers, (Powers{0, 2, -2, 7}));
+    EXPECT_TRUE(pixelAt(8, 280) == colour::panel && pixelAt(71, 311) == colour::panel);
+    EXPECT_TRUE(pixelAt(7, 280) == colour::red && pixelAt(8, 312) == colour::red);
+}
+
+TEST_F(HeroTest, APowersIconIsDrawnOnlyWhenItBeginsOrIsForcedAndItsBarIsFullAtSixteenTurns) {
+    turnsLeft(deflection) = 4;
+    ChangePower(deflection, 11);
+    EXPECT_NE(pixelAt(150, 290), flatColour(tile::deflection));
+    EXPECT_TRUE(pixelAt(136, 308) == colour::slate && pixelAt(137, 308) == colour::black);
+    ChangePower(deflection, 5, 1);
+    EXPECT_EQ(pixelAt(150, 290), flatColour(tile::deflection));
+    EXPECT_EQ(pixelAt(136, 308), colour::black);
+    ChangePower(stasis, 1);
+    EXPECT_EQ(pixelAt(80, 290), flatColour(tile::stasis));
 }
 
 TEST_F(SightTest, ShowsAndHidesAtOnceColumnByColumnFromTheLeft) {
@@ -79,7 +96,6 @@ TEST_F(SightTest, OtherChangesLeaveTheBoardAlone) {
     ChangePower(magicSight, 4, 0, 1);
     ChangePower(magicSight, 4);
     ChangePower(magicSight, 0, 1, 1);
-    EXPECT_EQ(turnsLeft(magicSight), 8);
     EXPECT_FALSE(goldIsShown()) << "the board has not been drawn at all";
     ChangePower(magicSight, 0, 1);
     EXPECT_TRUE(goldIsShown());

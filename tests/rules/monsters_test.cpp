@@ -7,11 +7,8 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int normalSpeed = 2;
 constexpr FedRoll rightFirst{100, 50};
 constexpr FedRoll leftFirst{100, 51};
-
-class GhostTest : public RuleTest {};
 
 class FilthTest : public RuleTest {
   protected:
@@ -35,6 +32,8 @@ class DemonTest : public RuleTest {
 };
 
 }  // namespace
+
+using GhostTest = RuleTest;
 
 TEST_F(GhostTest, FleesUpThenToTheSidesInRolledOrderThenDown) {
     for (const FedRoll side : {leftFirst, rightFirst}) {
@@ -106,20 +105,6 @@ TEST_F(FilthTest, AcidIgnoresProtectionAndItsRefusalDoesNotMatter) {
     EXPECT_EQ(newestMessage(), "Need total stats above 0.");
     EXPECT_FALSE(ui.messagePosted);
     EXPECT_EQ(board(5, 6), enc::OozingFilth);
-}
-
-TEST_F(FilthTest, TheSpreadingIsFlashedOnTheEmptiedCell) {
-    prefs.GameSpeed = normalSpeed;
-    bool flashed = true;
-    script::feedWhenPausing([&flashed](InputQueue&) {
-        const Point corner = boardGrid.corner(3, 6);
-        flashed = flashed && shows({3, 6}, tile::spreading) &&
-                  pixelAt(corner.x, corner.y) == flatColour(tile::cellar);
-        return true;
-    });
-    EXPECT_EQ(meetFilth({3, 6}), 1);
-    EXPECT_EQ(script::sleptMilliseconds(), 200);
-    EXPECT_TRUE(flashed);
 }
 
 TEST_F(DemonTest, TeleportsToTheFirstPickThatItMayEnter) {

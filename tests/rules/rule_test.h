@@ -7,10 +7,15 @@
 #include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/tiles.h"
-#include "tests/support/game_test.h"
+#include "tests/support/script.h"
 
 namespace gloomdeck {
 
+using Inventory = std::array<std::int32_t, 10>;
+using Skills = std::array<std::int32_t, 7>;
+using Powers = std::array<std::int32_t, 4>;
+
+inline constexpr int normalSpeed = 2;
 inline constexpr FedRoll doorDealt{100, 12};  // in a Dungeon column
 inline constexpr FedRoll noToughness{100, 100};
 
@@ -38,6 +43,9 @@ class RuleTest : public GameTest {
             found += board(i % columnCount, i / columnCount) == code ? 1 : 0;
         return found;
     }
+
+    // The newest message and the one before it.
+    static std::string messagesShown() { return newestMessage() + "|" + messageBar.lines[1]; }
 
     // By a pixel that no beam reaches from an eye far above.
     static bool shows(Point cell, int tileNumber) {
