@@ -1,11 +1,13 @@
-// Lines, boxes, circles and text on the frame, and the glyphs.
+// Lines, boxes, circles, text and images on the frame, and where they are cut.
 #include "platform/draw.h"
 
 #include <cmath>
-#include <set>
+#include <map>
 
 #include "platform/font.h"
 #include "platform/frame.h"
+#include "platform/image.h"
+#include "platform/kernels.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
@@ -14,99 +16,129 @@ namespace {
 
 constexpr Colour ink = 0xFFABCDEF;
 
-using Pixels = std::set<std::pair<int, int>>;
+using Pixels = std::map<std::pair<int, int>, Colour>;
 
-// What one drawing operation marks on a blank frame.
+// What one drawing operation changes on a blank frame.
 template <typename Draw, typename... Places>
 Pixels drawn(Draw draw, Places... places) {
     clearScreen();
+    const Colour blank = pixelAt(0, 0);
     draw(places..., ink);
     Pixels found;
     for (int y = 0; y < frameHeight; ++y)
         for (int x = 0; x < frameWidth; ++x)
-            if (pixelAt(x, y) == ink) found.insert({x, y});
+            if (pixelAt(x, y) != blank) found[{x, y}] = pixelAt(x, y);
     return found;
 }
+
+// A picture whose every pixel tells its own place.
+Image numbered(int width, int height) {
+    Image image = createImage(width, height);
+    Colour next = 0;
+    for (Colour& pixel : image.pixels) pixel = next++;
+    return image;
+}
+
+void putNumbered(int x, int y, Colour) { putImage(x, y, numbered(24, 20), putCopy); }
+void write(int x, int y, Colour colour) { drawText(x, y, "W#g", colour); }
 
 }  // namespace
 
 class DrawTest : public GameTest {};
 
-TEST_F(DrawTest, BoxesIncludeBothCornersInWhateverOrderTheyCome) {
-    const Pixels box = drawn(fillBox, 10, 20, 14, 22);
-    EXPECT_EQ(box.size(), 15U);
-    EXPECT_TRUE(box.contains({10, 20}) && box.contains({14, 22}));
-    EXPECT_EQ(drawn(fillBox, 14, 20, 10, 22), box);
-    EXPECT_EQ(drawn(fillBox, 7, 7, 7, 7), (Pixels{{7, 7}}));
-    const Pixels frame = drawn(drawBox, 14, 20, 10, 23);
-    EXPECT_EQ(frame.size(), 14U);
-    EXPECT_FALSE(frame.contains({12, 21}));
-}
-
-TEST_F(DrawTest, BoxesAndLinesBeyondTheFrameAreCutAndThoseOutsideVanish) {
-    EXPECT_EQ(drawn(fillBox, -50, -50, 3, 2).size(), 12U);
-    EXPECT_EQ(drawn(fillBox, frameWidth - 2, frameHeight - 3, 100000, 100000).size(), 6U);
-    EXPECT_TRUE(drawn(fillBox, 5, frameHeight, 9, frameHeight + 9).empty());
+TEST_F(DrawTest, BoxesAndStraightLinesIncludeTheirEndsInWhateverOrderAndAreCutByTheFrame) {
+    EXPECT_EQ(drawn(fillBox, 3, 9, 2, 8),
+              (Pixels{{{2, 8}, ink}, {{2, 9}, ink}, {{3, 8}, ink}, {{3, 9}, ink}}));
+    EXPECT_EQ(drawn(fillBox, -50, -50, 1, 0), (Pixels{{{0, 0}, ink}, {{1, 0}, ink}}));
+    EXPECT_EQ(drawn(fillBox, 407, 486, 9999, 9999), (Pixels{{{407, 486}, ink}, {{407, 487}, ink}}));
+    EXPECT_EQ(drawn(fillBox, 5, frameHeight, 9, frameHeight + 9), Pixels{});
+    EXPECT_EQ(drawn(drawLine, 4, 4, 3, 4), (Pixels{{{3, 4}, ink}, {{4, 4}, ink}}));
+    EXPECT_EQ(drawn(drawBox, 14, 20, 10, 23).size(), 14U);
     EXPECT_EQ(drawn(drawBox, -5, -5, frameWidth, 3).size(), std::size_t{frameWidth});
-    EXPECT_EQ(drawn(drawLine, -1000, -1000, 2000, 2000).size(), std::size_t{frameWidth});
-    EXPECT_TRUE(drawn(drawLine, -10, 0, -1, 400).empty());
 }
 
-TEST_F(DrawTest, LinesRunFromEndToEndOnePixelAStep) {
-    EXPECT_EQ(drawn(drawLine, 9, 4, 2, 4).size(), 8U);
-    for (const Point end :
-         {Point{100, 100}, Point{130, 107}, Point{70, 93}, Point{93, 160}, Point{107, 50}}) {
-        const Pixels pixels = drawn(drawLine, 100, 100, end.x, end.y);
-        const int longest = std::max(std::abs(end.x - 100), std::abs(end.y - 100));
+TEST_F(DrawTest, SlopedLinesKeepToTheTrueLineAndCirclesToTheirRadius) {
+    for (const Point by : {Point{30, 7}, Point{-30, -7}, Point{-7, 60}, Point{7, -50}}) {
+        const Pixels pixels = drawn(drawLine, 100, 100, 100 + by.x, 100 + by.y);
+        const int longest = std::max(std::abs(by.x), std::abs(by.y));
         EXPECT_EQ(pixels.size(), static_cast<std::size_t>(longest) + 1);
-        EXPECT_TRUE(pixels.contains({100, 100}) && pixels.contains({end.x, end.y}));
-        for (const auto& [x, y] : pixels) {
-            const int off = (x - 100) * (end.y - 100) - (y - 100) * (end.x - 100);
-            EXPECT_LE(2 * std::abs(off), longest) << "half a pixel from the true line at most";
-        }
+        EXPECT_TRUE(pixels.contains({100 + by.x, 100 + by.y}));
+        for (const auto& [at, colour] : pixels)
+            EXPECT_LE(2 * std::abs((at.first - 100) * by.y - (at.second - 100) * by.x), longest);
     }
-}
-
-TEST_F(DrawTest, CirclesAreRoundAndSymmetric) {
-    EXPECT_TRUE(drawn(drawCircle, 50, 50, -1).empty());
-    EXPECT_EQ(drawn(drawCircle, 50, 50, 0), (Pixels{{50, 50}}));
-    for (const int radius : {1, 2, 7, 23, 100}) {
+    EXPECT_EQ(drawn(drawLine, -1000, -1000, 2000, 2000).size(), std::size_t{frameWidth});
+    EXPECT_EQ(drawn(drawCircle, 50, 50, -1), Pixels{});
+    for (const int radius : {0, 1, 2, 7, 23, 100}) {
         const Pixels pixels = drawn(drawCircle, 150, 150, radius);
-        EXPECT_TRUE(pixels.contains({150 + radius, 150}) && pixels.contains({150, 150 - radius}));
-        for (const auto& [x, y] : pixels) {
-            EXPECT_NEAR(std::hypot(x - 150, y - 150), radius, 0.75);
-            EXPECT_TRUE(pixels.contains({y, x}) && pixels.contains({300 - x, y}));
+        EXPECT_TRUE(pixels.contains({150 + radius, 150}));
+        for (const auto& [at, colour] : pixels) {
+            EXPECT_NEAR(std::hypot(at.first - 150, at.second - 150), radius, 0.75);
+            EXPECT_TRUE(pixels.contains({at.second, at.first}) &&
+                        pixels.contains({300 - at.first, at.second}));
         }
     }
 }
 
-TEST_F(DrawTest, TextSetsOnlyTheGlyphsPixelsAndIsCutAtEveryEdge) {
-    const auto written = [](int x, int y) {
-        return drawn([=](Colour colour) { drawText(x, y, "W#g", colour); });
-    };
-    const Pixels whole = written(100, 100);
-    EXPECT_TRUE(textStandsAt(100, 100, "W#g", ink));
-    const auto cut = [&](int x, int y, const Rect& clip) {
-        Pixels kept;
-        for (const auto& [px, py] : whole)
-            if (contains(clip, px - 100 + x, py - 100 + y)) kept.insert({px - 100 + x, py - 100 + y});
-        return kept;
-    };
-    for (const Point at : {Point{-3, -2}, Point{-20, 5}, Point{395, 483}, Point{500, 10}, Point{10, -8}})
-        EXPECT_EQ(written(at.x, at.y), cut(at.x, at.y, clipRect())) << at.x << ", " << at.y;
-    const ClipTo clip{{103, 102, 112, 104}};
-    EXPECT_EQ(written(100, 100), cut(100, 100, {103, 102, 112, 104}));
+TEST_F(DrawTest, TextAndImagesAreCutAtEveryEdgeOfTheFrameAndTheClip) {
+    for (const auto draw : {write, putNumbered}) {
+        const Pixels whole = drawn(draw, 100, 100);
+        ASSERT_TRUE(whole.size() == 480 || textStandsAt(100, 100, "W#g", ink));
+        const auto expectCut = [&](int x, int y) {
+            Pixels kept;
+            for (const auto& [at, colour] : whole)
+                if (contains(clipRect(), at.first - 100 + x, at.second - 100 + y))
+                    kept[{at.first - 100 + x, at.second - 100 + y}] = colour;
+            EXPECT_EQ(drawn(draw, x, y), kept) << x << ", " << y;
+        };
+        for (const int x : {-500, -24, -23, -3, 200, 395, 407, 408})
+            for (const int y : {-20, -7, 200, 483, 487, 488, 9999}) expectCut(x, y);
+        setClip(212, 204, 203, 202);
+        EXPECT_EQ(clipRect(), (Rect{203, 202, 212, 204}));
+        for (const int x : {185, 200, 212, 213}) expectCut(x, 199);
+        setClip(frameWidth, 0, frameWidth + 50, 50);
+        EXPECT_EQ(drawn(draw, frameWidth - 4, 0), Pixels{}) << "the clip lies outside the frame";
+        for (const auto outside : {fillBox, drawLine}) EXPECT_EQ(drawn(outside, -9, -10, 999, 999), Pixels{});
+        EXPECT_EQ(drawn(drawCircle, 350, 50, 90), Pixels{});
+        resetClip();
+    }
 }
 
-TEST(Font, GlyphsDifferAndLeaveTheLastColumnBlankForTheNextCharacter) {
-    std::set<Glyph> different;
-    for (char c = ' '; c <= '~'; ++c) {
-        different.insert(glyphOf(c));
-        for (const std::uint8_t row : glyphOf(c)) EXPECT_EQ(row & 1, 0) << c;
-    }
-    EXPECT_EQ(different.size(), 95U);
-    EXPECT_EQ(glyphOf('L')[0] & 0x80, 0x80) << "bit 7 is the leftmost pixel";
-    for (const char blank : {' ', '\x1F', '\x7F', '\xFF', '\0'}) EXPECT_EQ(glyphOf(blank), Glyph{});
+TEST_F(DrawTest, TransparentPixelsAreSkippedWhateverTheirAlphaAndCopiedByCopy) {
+    Image image = createImage(3, 1);
+    image.pixels = {0x00FF00FF, 0x80FF00FF, 0xFFFF00FE};
+    const auto put = [&](PutMode mode) { return drawn([&](Colour) { putImage(0, 9, image, mode); }); };
+    EXPECT_EQ(put(putTransparent), (Pixels{{{2, 9}, 0xFFFF00FE}}));
+    EXPECT_EQ(put(putCopy), (Pixels{{{0, 9}, 0x00FF00FF}, {{1, 9}, 0x80FF00FF}, {{2, 9}, 0xFFFF00FE}}));
+    const Pixels blended = put(putBlended(255));
+    EXPECT_TRUE(blended.size() == 1 && blended.contains({2, 9}));
+}
+
+TEST_F(DrawTest, CuttingTakesTheRectangleAndLeavesWhatLiesOutsideTheSource) {
+    const auto cut = [](int x1, int y1, int x2, int y2) {
+        Image target = createImage(3, 2);
+        getImage(numbered(8, 8), x1, y1, x2, y2, target);
+        return target.pixels;
+    };
+    constexpr Colour old = transparentColour;
+    EXPECT_EQ(cut(2, 3, 4, 4), (std::vector<Colour>{26, 27, 28, 34, 35, 36}));
+    EXPECT_EQ(cut(6, 7, 8, 8), (std::vector<Colour>{62, 63, old, old, old, old}));
+}
+
+TEST(Kernels, BlendingIsExactForEveryPairOfChannelsAndEveryAlpha) {
+    std::vector<Colour> from(256);
+    std::vector<Colour> expected(256);
+    for (int alpha = 0; alpha < 256; ++alpha)
+        for (int d = 0; d < 256; ++d) {
+            const auto mixed = [=](int s) { return static_cast<Colour>(d + (s - d) * alpha / 256); };
+            for (int s = 0; s < 256; ++s) {
+                const auto at = static_cast<std::size_t>(s);
+                from[at] = static_cast<Colour>(s) * 0x00010001 + static_cast<Colour>(s ^ 0x55) * 0x01000100;
+                expected[at] = mixed(s) * 0x00010001 + mixed(s ^ 0x55) * 0x01000100;
+            }
+            std::vector<Colour> to(256, static_cast<Colour>(d) * 0x01010101);
+            blendRow(to.data(), from.data(), 256, alpha);
+            ASSERT_EQ(to, expected) << d << " by " << alpha;
+        }
 }
 
 }  // namespace gloomdeck

@@ -1,14 +1,16 @@
-// Buttons, menus, the hit test and wrapped text.
+// The hit test, wrapped text, and cutting the picture strips.
+#include <filesystem>
+
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
 #include "shell/board_view.h"
 #include "shell/hit_test.h"
 #include "shell/layout.h"
-#include "shell/menus.h"
 #include "shell/palette.h"
 #include "shell/panels.h"
 #include "shell/places.h"
+#include "shell/tile_set.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
@@ -47,46 +49,6 @@ Image cellImage(int col, int row) {
 
 class WidgetsTest : public GameTest {};
 
-TEST_F(WidgetsTest, WidgetsOfAScreenLieInsideTheLayoutAndHitThemselvesAlone) {
-    for (const int screenId :
-         {screen_id::selection, screen_id::play, screen_id::preferences, screen_id::training})
-        for (const int widgetId : pressOrder(screenId)) {
-            const Button& b = widget(widgetId);
-            EXPECT_TRUE(b.x >= 0 && b.y >= 0 && b.x + b.width <= 400 && b.y + b.height <= 480) << widgetId;
-            if (b.hidden) continue;  // Continue lies over the board
-            for (const int other : pressOrder(screenId))
-                EXPECT_EQ(hitTest(widget(other), b.x + b.width - 1, b.y + b.height - 1, Phase::press) != 0,
-                          other == widgetId)
-                    << widgetId << " and " << other;
-        }
-}
-
-TEST_F(WidgetsTest, CaptionsStandOnEvenHalvesWithTheHotKeyInYellow) {
-    Button& exit = widget(id::exit);
-    drawButton(exit);
-    EXPECT_TRUE(textStandsAt(354, 469, "E", colour::yellow));
-    EXPECT_TRUE(textStandsAt(362, 469, "xit", colour::edge));
-    EXPECT_EQ(pixelAt(400, 480), colour::edge);
-    EXPECT_EQ(pixelAt(401, 481), colour::black) << "the shadow";
-    eraseButton(exit);
-    EXPECT_EQ(pixelAt(401, 481), colour::panel);
-    EXPECT_EQ(hitTest(exit, 340, 470, Phase::press), 1) << "erased is not hidden";
-    exit.hidden = true;
-    for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
-        EXPECT_EQ(hitTest(exit, 340, 470, phase), 0);
-    showButton(exit, "");
-    EXPECT_TRUE(!exit.hidden && exit.caption == "Exit");
-}
-
-TEST_F(WidgetsTest, TheSelectedMenuItemIsLightWithDarkText) {
-    drawTabs(0);
-    EXPECT_TRUE(pixelAt(10, 22) == colour::edge && textStandsAt(15, 13, "Campaign", colour::face));
-    EXPECT_TRUE(pixelAt(90, 22) == colour::face && textStandsAt(93, 13, "Scenario", colour::edge));
-    constexpr std::array<std::string_view, 3> items{"a", "b", "odd"};
-    drawHelpMenu(items, 2);
-    EXPECT_TRUE(textStandsAt(36, 57, "odd", colour::face)) << "half a pixel goes to the even place";
-}
-
 TEST_F(WidgetsTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
     Button& grid = widget(id::board);
     EXPECT_EQ(hitTest(grid, 8 + 32 * 2 + 31, 40 + 32 * 3 + 31, Phase::press), 1);
@@ -97,10 +59,17 @@ TEST_F(WidgetsTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly)
         EXPECT_EQ(hitTest(grid, in.x, in.y, Phase::release), 1);
     for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
         EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
-    Button& help = widget(id::help);
-    hitTest(help, help.x, help.y, Phase::press);
-    EXPECT_EQ(pixelAt(help.x + 62, help.y + 15), colour::pressedFace);
-    EXPECT_NE(pixelAt(help.x + 63, help.y + 16), colour::pressedFace) << "the outline stays";
+    Button& exit = widget(id::exit);
+    hitTest(exit, exit.x, exit.y, Phase::press);
+    EXPECT_EQ(pixelAt(exit.x + 62, exit.y + 10), colour::pressedFace);
+    EXPECT_NE(pixelAt(exit.x + 64, exit.y + 10), colour::pressedFace) << "the outline stays";
+    eraseButton(exit);
+    EXPECT_EQ(hitTest(exit, 340, 470, Phase::press), 1) << "erased is not hidden";
+    exit.hidden = true;
+    for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
+        EXPECT_EQ(hitTest(exit, 340, 470, phase), 0);
+    showButton(exit, "");
+    EXPECT_TRUE(!exit.hidden && exit.caption == "Exit");
 }
 
 TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
@@ -126,32 +95,26 @@ TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
     EXPECT_NE(pixelAt(260, 216), flatColour(tile::sun));
 }
 
-TEST_F(WidgetsTest, WrappedTextBreaksBetweenWordsAndAtBackslashes) {
+TEST_F(WidgetsTest, WrappedTextBreaksBetweenWordsAndAtBackslashesAndBulletItemsIndentUntilThen) {
     EXPECT_EQ(wrapped("one two three", 7, 3), "one two|three||");
     EXPECT_EQ(wrapped("a\\b\\\\c", 9, 5), "a|b||c||");
     EXPECT_EQ(wrapped("  lead and trail  ", 8, 3), "lead|and|trail|");
     EXPECT_EQ(wrapped("", 5, 1), "|");
     EXPECT_EQ(wrapped("unbreakable", 4, 4), "unbr|eaka|ble||") << "a word longer than the line is split";
-}
-
-TEST_F(WidgetsTest, BulletItemsIndentTheirContinuationUntilAForcedBreak) {
     EXPECT_EQ(wrapped("* one two three four\\five six", 9, 5), "* one two|  three|  four|five six||");
     EXPECT_EQ(wrapped("*item\\* other item here", 12, 3), "*item|* other item|  here|");
 }
 
-TEST_F(WidgetsTest, PanelsReachTheFramesEdgesAndTextsTheirPlaces) {
-    drawHeaderBar(50);
-    EXPECT_EQ(pixelAt(407, 50), colour::panel);
-    EXPECT_EQ(pixelAt(407, 51), colour::white);
-    EXPECT_EQ(pixelAt(407, 487), pixelAt(200, 200)) << "the background";
-    centredText("odd", 100, 200);
-    EXPECT_TRUE(textStandsAt(88, 200, "odd", colour::text));
-    for (const int height : {13, 14}) {
-        drawBoardLabel("Label", 20, height);
-        EXPECT_TRUE(textStandsAt(16, height == 13 ? 62 : 72, "Label", colour::text));
-        EXPECT_EQ(pixelAt(231, 59 + height), colour::panel);
-        EXPECT_NE(pixelAt(231, 60 + height), colour::panel);
-    }
+TEST_F(WidgetsTest, AMissingStripLeavesItsTilesTransparentAndTheLastTileIsBeyondTheStrip) {
+    const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
+    std::filesystem::remove(folder + "/gfx/dtiles2.bmp");
+    loadTiles();
+    const Image nothing = createImage(tile::size, tile::size);
+    for (const int number : {1, 49, 99, 147})
+        EXPECT_EQ(tileImage(number).pixels[16 * 33], flatColour(number));
+    for (const int number : {50, 98, 148}) EXPECT_EQ(tileImage(number).pixels, nothing.pixels);
+    EXPECT_TRUE(tileImage(149).pixels.empty());
 }
 
 }  // namespace gloomdeck
