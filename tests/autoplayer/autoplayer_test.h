@@ -12,14 +12,7 @@
 namespace gloomdeck {
 
 /// The switches, to be added up.
-enum Switches : int {
-    goodStuffOn = 1,
-    fairlyEasyOn = 2,
-    obstaclesOn = 4,
-    griefOn = 8,
-    spellsSkillsOn = 16,
-    everySwitchOn = 31
-};
+enum Switches : int { goodOn = 1, easyOn = 2, hardOn = 4, griefOn = 8, spellsOn = 16, allOn = 31 };
 
 class AutoplayerTest : public GameTest {
   protected:
@@ -35,22 +28,18 @@ class AutoplayerTest : public GameTest {
             column(col).finished = std::ranges::find(columns, col) == columns.end() ? 1 : 0;
     }
 
-    static void fillColumn(int col, enc::Code code) {
-        for (int row = 0; row < rowCount; ++row) cell(col, row) = code;
-    }
+    static void fillColumn(int col, int code) { std::fill_n(column(col).cells.begin(), rowCount, code); }
 
     static Assessment assessNow() { return assessBoard(eyeRowsNow()); }
 
     /// Runs with these keys waiting.
     static int movesPlayed(std::initializer_list<std::string_view> keys = {}) {
+        seedRolls(1);
         for (const auto key : keys) keyTyped(inputQueue(), key);
         const int before = game.turns;
         RunAutoplayer();
         return game.turns - before;
     }
-
-    /// One move, stopped with a Space that must be read.
-    static bool playsOneMove() { return movesPlayed({keycode::space}) == 1 && !keyWaiting(); }
 };
 
 }  // namespace gloomdeck
