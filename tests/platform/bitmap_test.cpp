@@ -28,12 +28,11 @@ void poke(std::string& file, std::size_t at, std::uint32_t value) {
 std::string bitmap(std::uint32_t width, std::uint32_t height, std::uint32_t bits, const std::string& palette,
                    const std::string& rows) {
     std::string file = "BM" + std::string(52, '\0');
-    std::size_t at = 10;
-    for (const std::uint32_t value :
-         {54 + static_cast<std::uint32_t>(palette.size()), 40U, width, height, 1 | bits << 16}) {
-        poke(file, at, value);
-        at += 4;
-    }
+    poke(file, 10, static_cast<std::uint32_t>(file.size() + palette.size()));
+    poke(file, 14, 40);
+    poke(file, 18, width);
+    poke(file, 22, height);
+    poke(file, 26, 1 | bits << 16);
     return file + palette + rows;
 }
 
@@ -43,7 +42,8 @@ const Pixels untouched(4, transparentColour);
 
 // The pixels of a target of that size after the file was read into it.
 Pixels read(const std::string& file, int width = 2, int height = 2) {
-    const auto path = std::filesystem::temp_directory_path() / ("gloomdeck-" + std::to_string(getpid()));
+    const auto path =
+        std::filesystem::temp_directory_path() / ("gloomdeck-" + std::to_string(getpid()) + ".bmp");
     std::ofstream(path, std::ios::binary) << file;
     Image target = createImage(width, height);
     loadBitmap(path, target);

@@ -31,15 +31,13 @@ Pixels drawn(Draw draw, Places... places) {
     return found;
 }
 
-// A picture whose every pixel tells its own place.
-Image numbered(int width, int height) {
-    Image image = createImage(width, height);
-    Colour next = 0;
+void putNumbered(int x, int y, Colour) {
+    Image image = createImage(24, 20);
+    Colour next = 0;  // every pixel tells its own place
     for (Colour& pixel : image.pixels) pixel = next++;
-    return image;
+    putImage(x, y, image, putCopy);
 }
 
-void putNumbered(int x, int y, Colour) { putImage(x, y, numbered(24, 20), putCopy); }
 void write(int x, int y, Colour colour) { drawText(x, y, "W#g", colour); }
 
 }  // namespace
@@ -111,17 +109,6 @@ TEST_F(DrawTest, TransparentPixelsAreSkippedWhateverTheirAlphaAndCopiedByCopy) {
     EXPECT_EQ(put(putCopy), (Pixels{{{0, 9}, 0x00FF00FF}, {{1, 9}, 0x80FF00FF}, {{2, 9}, 0xFFFF00FE}}));
     const Pixels blended = put(putBlended(255));
     EXPECT_TRUE(blended.size() == 1 && blended.contains({2, 9}));
-}
-
-TEST_F(DrawTest, CuttingTakesTheRectangleAndLeavesWhatLiesOutsideTheSource) {
-    const auto cut = [](int x1, int y1, int x2, int y2) {
-        Image target = createImage(3, 2);
-        getImage(numbered(8, 8), x1, y1, x2, y2, target);
-        return target.pixels;
-    };
-    constexpr Colour old = transparentColour;
-    EXPECT_EQ(cut(2, 3, 4, 4), (std::vector<Colour>{26, 27, 28, 34, 35, 36}));
-    EXPECT_EQ(cut(6, 7, 8, 8), (std::vector<Colour>{62, 63, old, old, old, old}));
 }
 
 TEST(Kernels, BlendingIsExactForEveryPairOfChannelsAndEveryAlpha) {

@@ -24,12 +24,11 @@ Pixels drawn(Extent size, const Pixels& pixels, Rows rows, Extent area, const Re
 }  // namespace
 
 TEST(Scaling, WindowsOpenLargeOnLargeDisplaysOnly) {
-    for (const auto& [usable, scale] : {std::pair{Extent{640, 400}, 1},
-                                        {{1631, 4000}, 1},
-                                        {{1632, 1463}, 1},
-                                        {{1632, 1464}, 2},
-                                        {{20000, 20000}, 4}})
+    // clang-format off
+    for (const auto& [usable, scale] : {std::pair{Extent{1631, 4000}, 1}, {{1632, 1463}, 1},
+                                        {{1632, 1464}, 2}, {{640, 400}, 1}, {{20000, 20000}, 4}})
         EXPECT_EQ(openingScale(usable), scale) << usable.width;
+    // clang-format on
 }
 
 TEST(Scaling, PicturesAreCentredWholeMultiplesOrTheWholeFrameShrunkInItsShape) {

@@ -35,9 +35,9 @@ TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRe
     EXPECT_TRUE(textStandsAt(16, 345, "three", colour::text));
     const Image bar = screen();
     screen() = blank;
-    ShowMessage("", 0);
+    ShowMessage("", 1);
     EXPECT_EQ(screen().pixels, bar.pixels);
-    EXPECT_EQ(messageBar.lines[1], "");
+    EXPECT_FALSE(ui.messagePosted) << "nor is it the turn's message";
 }
 
 TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
@@ -51,17 +51,6 @@ TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
         Delay(n);
         EXPECT_EQ(script::sleptMilliseconds() - before, milliseconds) << speed << ": " << n;
     }
-}
-
-TEST_F(MessagesTest, OnlyAMarkedTextIsTheTurnsMessageAndTheSpeedTellsWhenAsked) {
-    ShowMessage("prompt", 0);
-    ShowMessage("", 1);
-    speedDown(0);
-    EXPECT_EQ(newestMessage(), "prompt");
-    EXPECT_FALSE(ui.messagePosted);
-    speedDown(1);
-    EXPECT_EQ(newestMessage(), "Game speed decreased to Very Fast.");
-    EXPECT_TRUE(ui.messagePosted);
 }
 
 TEST_F(MessagesTest, WaitsEndAtTheirKeysAtAClicksReleaseAndTheTitlesByItself) {
