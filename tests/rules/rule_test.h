@@ -20,7 +20,7 @@ inline constexpr FedRoll doorDealt{100, 12};  // in a Dungeon column
 inline constexpr FedRoll noToughness{100, 100};
 
 class RuleTest : public GameTest {
-  protected:
+  public:
     // Meets that tile in a column that has not advanced yet; every roll must be drawn.
     static int meet(enc::Code code, const std::vector<FedRoll>& drawn, Point at = {3, 6}) {
         column(at.x).drawn = 0;
@@ -40,7 +40,7 @@ class RuleTest : public GameTest {
     static int countOf(enc::Code code) {
         int found = 0;
         for (int i = 0; i < columnCount * rowCount; ++i)
-            found += board(i % columnCount, i / columnCount) == code ? 1 : 0;
+            found += board(i % columnCount, i / columnCount) == code;
         return found;
     }
 
