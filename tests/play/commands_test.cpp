@@ -8,23 +8,6 @@ namespace {
 
 const char* const playTitle = "Gloomdeck 1.2";
 const char* const selectionTitle = "Select a game";
-const char* const hint = "Click on the bottom row of the map grid above.";
-
-class CommandTest : public QuickPlayTest {
-  protected:
-    void SetUp() override {
-        QuickPlayTest::SetUp();
-        script.startScenario(4).check([] { giveHero(50); });
-    }
-
-    Script& expectTurns(int turns) {
-        return script.check([=] { EXPECT_EQ(game.turns, turns); });
-    }
-
-    Script& expectMode(int mode) {
-        return script.check([=] { EXPECT_EQ(ui.targetMode, mode); });
-    }
-};
 
 struct Aim {
     int item;
@@ -39,6 +22,18 @@ const std::array<Aim, 3> aims{{
     {hands, target::hand, "hand", "Select a square on the map, <Esc> to cancel."},
 }};
 
+class CommandTest : public QuickPlayTest {
+  protected:
+    void SetUp() override {
+        QuickPlayTest::SetUp();
+        script.startScenario(4).check([] { giveHero(50); });
+    }
+
+    Script& expect(int turns, int mode = target::none) {
+        return script.check([=] { EXPECT_EQ(std::pair(game.turns, ui.targetMode), std::pair(turns, mode)); });
+    }
+};
+
 }  // namespace
 
 TEST_F(CommandTest, CharactersWithoutAMeaningDoNothing) {
@@ -51,9 +46,7 @@ TEST_F(CommandTest, CharactersWithoutAMeaningDoNothing) {
     });
     for (char c = '!'; c <= '~'; ++c)
         if (meaningful.find(c) == std::string::npos) script.key(std::string(1, c));
-    for (const auto code : {keycode::space, keycode::enter, keycode::escape, keycode::backspace, keycode::up})
-        script.key(code);
-    script.check([&] {
+    script.type(" \r\x1B\b").key(keycode::up).check([&] {
         EXPECT_EQ(before, gameBytes());
         EXPECT_TRUE(picture == script::shownFrame());
     });
@@ -64,46 +57,39 @@ TEST_F(CommandTest, KeysAndButtonsOpenTheSameScreensAndEveryWayLeavesThem) {
     struct Way {
         const char* title;
         const char* key;
-        int button;
+        Point place;
     };
-    for (const Way& way : {Way{"Help", "?", id::help}, Way{"Help", "H", id::help},
-                           Way{"Preferences", "P", id::prefs}, Way{"Train or trade", "T", id::stats}}) {
+    for (const Way& way :
+         {Way{"Help", "?", widgetCentre(id::help)}, Way{"Help", "H", widgetCentre(id::help)},
+          Way{"Preferences", "P", widgetCentre(id::prefs)}, Way{"Train or trade", "T", statsCell(gold)}}) {
         for (const std::string_view leaving : {"q", "Q", "\x1B", "\r", " "})
             script.key(way.key).screen(way.title).key("x").screen(way.title).key(leaving).screen(playTitle);
         script.key(way.key).closeWindow().screen(playTitle);
-        way.button == id::stats ? script.click(statsCell(gold)) : script.button(way.button);
-        script.screen(way.title).button(id::done).screen(playTitle);
+        script.click(way.place).screen(way.title).button(id::done).screen(playTitle);
     }
-    script.key("-")
-        .newest("Game speed decreased to Slow.")
-        .key("+")
-        .newest("Game speed increased to Normal.");
-    expectTurns(0);
+    script.key("-").newest("Game speed decreased to Slow.");
+    script.key("+").newest("Game speed increased to Normal.");
+    expect(0);
     finish();
 }
 
-TEST_F(CommandTest, ReplayAndNewAskDuringPlay) {
-    const auto noAndMore = [](InputQueue& queue) {
-        for (const char* key : {"n", "P"}) keyTyped(queue, key);
-    };
-    for (const char* key : {"R", "N"}) script.key(key).then(noAndMore).screen(playTitle).key(key).key("\x1B");
+TEST_F(CommandTest, ReplayAndNewAskDuringPlayAndNothingAfterTheEndWhereTrainingIsClosed) {
+    const Point tile = boardCell(2, bottomRow);
+    for (const char* key : {"R", "N"}) script.key(key).key("n").screen(playTitle).key(key).key("\x1B");
     for (const int button : {id::newGame, id::replay})
         script.button(button).key("\t").key("\r").screen(playTitle);
-    script.click(boardCell(2, bottomRow));
-    expectTurns(1).key("R").key("y");
-    expectTurns(0).check([] { giveHero(50); }).click(boardCell(2, bottomRow)).button(id::replay).key("\r");
-    expectTurns(0).key("N").key("\r").screen(selectionTitle).key("\r").screen(playTitle);
-    script.button(id::newGame).key("Y").screen(selectionTitle);
-    finish();
-}
+    script.click(tile);
+    expect(1).key("R").key("y");
+    expect(0).check([] { giveHero(50); }).click(tile).button(id::replay).key("\r");
+    expect(0).key("N").key("\r").screen(selectionTitle).key("\r").screen(playTitle);
+    script.button(id::newGame).key("Y").screen(selectionTitle).key("\r");
 
-TEST_F(CommandTest, AfterTheEndReplayAndNewAskNothingAndTrainingIsClosed) {
     script.hurry().clearBoard().key("T").screen(playTitle).click(statsCell(gold)).screen(playTitle);
     script.key("N").screen(selectionTitle).key("\r").check([] { EXPECT_FALSE(prefs.scenarioOver); });
     script.hurry().clearBoard().button(id::newGame).screen(selectionTitle).key("\r");
     script.hurry().clearBoard().button(id::replay);
-    expectTurns(0).hurry().clearBoard().key("R");
-    expectTurns(0);
+    expect(0).hurry().clearBoard().key("R");
+    expect(0);
     finish();
 }
 
@@ -112,36 +98,33 @@ TEST_F(CommandTest, EveryWayOutAsksAndGoesOnAfterNo) {
         script.key(key).key("N").screen(playTitle);
         EXPECT_EQ(firstRun(Script(script).key(key).key("y")), 0) << key;
     }
-    script.button(id::exit).key("n").screen(playTitle).button(id::exit).key("\r");
-    EXPECT_EQ(firstRun(script), 0);
 }
 
 TEST_F(CommandTest, AKeyOfAClicksPassIsForgottenUnlessItEndsTheLoop) {
-    const auto releaseWith = [](const char* key) {
-        return [=](InputQueue& queue) {
-            buttonChanged(queue, false);
-            keyTyped(queue, key);
-        };
-    };
     const Point tile = boardCell(0, bottomRow);
     script.check([] { board(0, bottomRow) = board(0, bottomRow - 1) = enc::Fruit; });
-    script.press(tile).then(releaseWith("P")).screen(playTitle);
-    expectTurns(1).press(tile).then(releaseWith("X"));
+    for (const char* key : {"P", "X"})
+        script.screen(playTitle).press(tile).then([=](InputQueue& queue) {
+            buttonChanged(queue, false);
+            keyTyped(queue, key);
+        });
     EXPECT_EQ(run(script), 0);
     EXPECT_EQ(game.turns, 2);
 }
 
-TEST_F(CommandTest, AModeIsCancelledThreeWays) {
-    for (const Aim& aim : aims) {
-        const Point row = statsCell(aim.item);
-        script.click(row).newest(aim.prompt).key("\x1B").newest("Canceled " + aim.name + " mode.");
-        expectMode(target::none).click(row).click(statsCell(suns)).newest("Spell canceled.");
-        expectMode(target::none).click(row).newest(aim.prompt).click(row).newest("Spell canceled.");
-        expectMode(target::none).click(row);
-        expectMode(aim.mode).key("H").key("q").newest(hint);
-        expectMode(target::none);
+TEST_F(CommandTest, AModeIsCancelledThreeWaysAndByAnotherScreen) {
+    for (const auto& [item, mode, name, prompt] : aims) {
+        const Point row = statsCell(item);
+        script.click(row).newest(prompt);
+        expect(0, mode).key("\x1B").newest("Canceled " + name + " mode.");
+        for (const Point elsewhere : {statsCell(suns), row})
+            expect(0).click(row).newest(prompt).click(elsewhere).newest("Spell canceled.");
+        expect(0).click(row).key("H").key("q");
+        expect(0).newest("Click on the bottom row of the map grid above.");
     }
-    expectTurns(0).check([] { EXPECT_EQ(TotalStats(), 50 * itemCount); });
+    script.check([] { EXPECT_EQ(TotalStats(), 50 * itemCount); });
+    script.check([] { column(5).finished = 1; }).click(statsCell(lightningBolts)).click(boardCell(5, 1));
+    expect(0, target::lightning);
     finish();
 }
 
@@ -149,19 +132,12 @@ TEST_F(CommandTest, AModeIsUsedOnce) {
     int turns = 0;
     for (const Aim& aim : aims) {
         script.check([] { board(3, 3) = enc::Gold; }).click(statsCell(aim.item)).click(boardCell(3, 3));
-        expectTurns(++turns).check([=] { EXPECT_EQ(count(aim.item), 49); }).click(boardCell(3, 3));
-        expectMode(target::none).check([=] { count(aim.item) = 0; }).click(statsCell(aim.item));
-        expectTurns(turns).check([] { EXPECT_TRUE(newestMessage().ends_with(" to use.")); });
+        expect(++turns).check([=] { EXPECT_EQ(std::exchange(count(aim.item), 0), 49); });
+        script.click(boardCell(3, 3)).click(statsCell(aim.item));
+        expect(turns).check([] { EXPECT_TRUE(newestMessage().ends_with(" to use.")); });
     }
     script.click(statsCell(suns)).click(statsCell(shields));
-    expectTurns(turns + 2).check([] { EXPECT_EQ(count(suns) + count(shields), 98); });
-    finish();
-}
-
-TEST_F(CommandTest, LightningKeepsItsAimOnAFinishedColumn) {
-    script.check([] { column(5).finished = 1; }).click(statsCell(lightningBolts)).click(boardCell(5, 1));
-    expectMode(target::lightning);
-    expectTurns(0);
+    expect(turns + 2).check([] { EXPECT_EQ(count(suns) + count(shields), 98); });
     finish();
 }
 

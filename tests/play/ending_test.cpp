@@ -1,5 +1,4 @@
 // The program is taken down at any moment: nothing is lost, and what is saved is a whole move.
-#include <filesystem>
 #include <random>
 #include <set>
 
@@ -24,83 +23,58 @@ Script smallGame() {
     return script;
 }
 
-class EndingTest : public QuickPlayTest {
-  protected:
-    void firstRunEndedAt(long poll) {
-        for (const char* name : {"DGDP.dat", "DGDG.dat"}) std::filesystem::remove(folder + "/Data/" + name);
-        resetProgram();
-        script::feedAtPoll([left = poll](InputQueue& queue) mutable {
-            if (left-- != 0) return true;
-            endRequested(queue);
-            dropScript();
-            return true;
-        });
-        EXPECT_EQ(run(smallGame()), 0) << "ended at poll " << poll;
-    }
+}  // namespace
 
-    void expectSaved() {
+using EndingTest = QuickPlayTest;
+
+TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestion) {
+    const Script playing = Script().startScenario(0);
+    std::vector<Script> players{Script(), Script().passTitle(), playing,
+                                Script(playing).press(boardCell(0, 0))};
+    for (const char* question : {"R", "N", "Q"}) players.push_back(Script(playing).key(question));
+    for (Script& player : players) {
+        EXPECT_EQ(firstRun(player.closeWindow()), 0);
         EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
         EXPECT_EQ(dataFile("DGDG.dat").size(), sizeof prefs);
     }
-};
-
-// What the records are between moves, and which polls belong to an action.
-struct Watched {
-    std::set<std::string> wholeMoves{std::string(sizeof game, '\0')};  // no game yet
-    std::vector<long> otherPolls;
-    std::vector<long> pollsOfActions;
-    long polls = 0;
-};
-
-Script watching(const Script& plain, Watched& watched) {
-    const auto note = [&] {
-        if (game.scoreStanding == none) watched.wholeMoves.insert(gameBytes());  // else it is being set up
-    };
-    Script all;
-    for (const Script::Step& step : plain.steps) all.check(note).then(step).check(note);
-    return all;
-}
-
-}  // namespace
-
-TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestion) {
-    const auto expectEnd = [this](const Script& whole) { EXPECT_EQ(firstRun(whole), 0), expectSaved(); };
-    expectEnd(Script().closeWindow());  // at the title
-    expectEnd(Script().passTitle().closeWindow());
-    expectEnd(Script().startScenario(0).closeWindow());
-    expectEnd(Script().startScenario(0).press(boardCell(0, 0)).closeWindow());
-    for (const char* question : {"R", "N", "Q"})
-        expectEnd(Script().startScenario(0).key(question).closeWindow());
 }
 
 TEST_F(EndingTest, ACloseRequestIsRememberedUntilAStoryIsRead) {
     script.passTitle().key(keycode::enter).closeWindow().key("z").key(keycode::space);
     EXPECT_EQ(run(script), 0);
     EXPECT_EQ(game.campaign, 0);
-    expectSaved();
-}
-
-TEST_F(EndingTest, ACloseRequestAtTheTitleOfASavedGameKeepsTheGame) {
-    EXPECT_EQ(run(Script().startScenario(0).click(boardCell(1, bottomRow)).closeWindow()), 0);
-    const std::string before = dataFile("DGDP.dat");
-    EXPECT_EQ(restart(Script().closeWindow()), 0);
-    EXPECT_EQ(dataFile("DGDP.dat"), before);
+    EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
 }
 
 TEST_F(EndingTest, ASignalAtAnyPollEndsWithAWholeMoveSaved) {
-    Watched watched;
-    script::feedAtPoll([&](InputQueue& queue) {
-        (queue.paused ? watched.pollsOfActions : watched.otherPolls).push_back(watched.polls++);
+    std::set<std::string> wholeMoves{std::string(sizeof game, '\0')};  // no game yet
+    const auto note = [&] {
+        if (game.scoreStanding == none) wholeMoves.insert(gameBytes());  // else it is being set up
+    };
+    for (const Script::Step& step : smallGame().steps) script.check(note).then(step).check(note);
+    std::array<std::vector<int>, 2> polls;  // of waits, and of actions
+    script::feedAtPoll([&, poll = 0](InputQueue& queue) mutable {
+        polls[queue.paused ? 1 : 0].push_back(poll++);
         return true;
     });
-    EXPECT_EQ(run(watching(smallGame(), watched).closeWindow()), 0);
-    ASSERT_GT(watched.pollsOfActions.size(), 100U);
+    EXPECT_EQ(run(script.closeWindow()), 0);
+    ASSERT_GT(polls[1].size(), 100U);
     std::mt19937 random(1);
-    for (int i = 0; i < 24; ++i) {
-        const std::vector<long>& from = i % 3 ? watched.pollsOfActions : watched.otherPolls;
-        const long end = from[random() % from.size()];
-        firstRunEndedAt(end);
-        EXPECT_TRUE(watched.wholeMoves.contains(dataFile("DGDP.dat"))) << "ended at poll " << end;
+    for (std::size_t i = 0; i < 24; ++i) {
+        const std::vector<int>& from = polls[i % 3 ? 1 : 0];
+        const int end = from[random() % from.size()];
+        SCOPED_TRACE("ended at poll " + std::to_string(end));
+        folder = makeProgramFolder(false);
+        resetProgram();
+        script::feedAtPoll([left = end](InputQueue& queue) mutable {
+            if (left-- == 0) {
+                endRequested(queue);
+                startScript({});  // it must end by itself
+            }
+            return true;
+        });
+        EXPECT_EQ(run(smallGame()), 0);
+        EXPECT_TRUE(wholeMoves.contains(dataFile("DGDP.dat")));
         EXPECT_EQ(dataFile("DGDG.dat").size(), sizeof prefs);
     }
 }
@@ -111,8 +85,8 @@ TEST_F(EndingTest, ALostWindowSavesOnceTheRecordsOfTheLastWholeMove) {
         giveHero(100);
         board(0, bottomRow) = enc::SkeletonKing;
     });
-    script.click(statsCell(shields)).check([&] { before = gameBytes(); });
-    script.then([](InputQueue&) {
+    script.click(statsCell(shields)).check([&] {
+        before = gameBytes();
         script::feedWhenPausing([](InputQueue& queue) {
             if (queue.paused && count(health) < 100) script::loseWindow();
             return true;

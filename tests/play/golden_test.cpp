@@ -1,16 +1,12 @@
 // The screens as whole frames, drawn with flat tiles.
-#include "tests/support/golden.h"
-
 #include "content/locations.h"
 #include "shell/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
 
-namespace {
-
 // A board and a hero that show everything that a play screen can: all codes, an eye, ends, all powers.
-void setTheScene() {
+static void setTheScene() {
     makeEmptyBoard();
     for (int code = 0; code < enc::count; ++code) cell(code % 6, code / 6) = code;
     for (int col = 0; col < columnCount; ++col) column(col).location = col;
@@ -21,29 +17,16 @@ void setTheScene() {
     for (int power = 0; power < powerCount; ++power) turnsLeft(power) = power * 5;
     game.turns = 123;
     game.scenario = 6;
-    makeFlatTiles();
 }
-
-}  // namespace
 
 TEST_F(PlayTest, EveryScreenLooksAsItDid) {
     const auto frame = [](const char* name) { return [=] { expectGoldenFrame(name); }; };
     Script script;
     script.passTitle().key(keycode::right).key(keycode::down).type(" II").check(frame("selection"));
     script.key(keycode::enter).check(setTheScene).key("P").button(id::toggle + 3).button(id::speedUp);
-    script.check(frame("preferences")).button(id::toggle + 3).key("q").key("T");
-    script.button(id::training)
-        .check(frame("training"))
-        .key("q")
-        .key("H")
-        .key(keycode::left)
-        .check(frame("help"));
-    script.key("q")
-        .click(statsCell(keys))
-        .move(statsCell(lightningBolts))
-        .click(statsCell(lightningBolts))
-        .move(boardCell(4, 2))
-        .check(frame("play"));
+    script.check(frame("preferences")).button(id::toggle + 3).key("q").key("T").button(id::training);
+    script.check(frame("training")).key("q").key("H").key(keycode::left).check(frame("help")).key("q");
+    script.click(statsCell(keys)).click(statsCell(lightningBolts)).move(boardCell(4, 2)).check(frame("play"));
     EXPECT_EQ(run(script.closeWindow()), 0);
 }
 

@@ -22,33 +22,22 @@ Script::Step typing(std::string_view text) {
     };
 }
 
-// Caves take long: what is in them is unveiled row by row.
-void makeCaves() {
-    giveHero(100);
-    for (int col = 0; col < columnCount; ++col)
-        for (int row = 0; row < rowCount; ++row) cell(col, row) = enc::Cave;
-}
-
 class PacingTest : public QuickPlayTest {
   protected:
+    // Caves take long: what is in them is unveiled row by row.
     void SetUp() override {
         QuickPlayTest::SetUp();
-        script.startScenario(0).check(makeCaves);
+        script.startScenario(0).check([] {
+            giveHero(100);
+            for (int i = 0; i < columnCount * rowCount; ++i) cell(i / rowCount, i % rowCount) = enc::Cave;
+        });
     }
 
     // Switches all five kinds of moves on; the run starts when the preferences are left.
-    static Script& startAutoplayer(Script& run) {
-        run.key("P");
-        for (int row = 0; row < 5; ++row) run.button(id::toggle + row);
-        return run.key("q");
-    }
-
-    // The move under way and the one that was chosen after it are played.
-    void expectStopBy(const Script::Step& step) {
-        const auto stopped = [] { EXPECT_EQ(game.turns, 2); };
-        Script run = script;
-        startAutoplayer(run.then(inPause(20, step))).check(stopped).release(boardCell(3, bottomRow));
-        EXPECT_EQ(firstRun(run.check(stopped).closeWindow()), 0);
+    static Script& startAutoplayer(Script& player, const Script::Step& step) {
+        player.then(inPause(20, step)).key("P");
+        for (int row = 0; row < 5; ++row) player.button(id::toggle + row);
+        return player.key("q");
     }
 };
 
@@ -66,8 +55,8 @@ TEST_F(PacingTest, ImpatientClicksDuringAnActionSpendOneMove) {
 }
 
 TEST_F(PacingTest, KeysTypedDuringAnActionActAfterItOneAPass) {
-    script.then(inPause(5, typing("+P++qR")));
-    script.click(boardCell(0, bottomRow)).key("n").screen("Gloomdeck 1.2").check([] {
+    script.then(inPause(5, typing("+P++qR"))).click(boardCell(0, bottomRow)).key("n");
+    script.screen("Gloomdeck 1.2").check([] {
         EXPECT_EQ(prefs.GameSpeed, 5);
         EXPECT_EQ(game.turns, 1);
     });
@@ -75,35 +64,37 @@ TEST_F(PacingTest, KeysTypedDuringAnActionActAfterItOneAPass) {
 }
 
 TEST_F(PacingTest, AKeyCutsLongPausesShort) {
-    const auto castSun = [this](const Script::Step& step) {
-        long slept = 0;
-        Script run = script;
-        run.check(makeEmptyBoard).then(inPause(3, step)).check([&] { slept = script::sleptMilliseconds(); });
-        run.click(statsCell(suns)).check([&] { slept = script::sleptMilliseconds() - slept; });
-        EXPECT_EQ(firstRun(run.closeWindow()), 0);
-        return slept;
-    };
-    EXPECT_GE(castSun([](InputQueue&) {}), 1000);
-    EXPECT_LT(castSun(typing("z")), 600);
+    script.check(makeEmptyBoard);
+    std::array<long, 3> slept{};
+    for (std::size_t i = 0; i < 3; ++i)
+        script.check([&, i] { slept[i] = script::sleptMilliseconds(); })
+            .then(inPause(3, typing(i == 1 ? "z" : "")))
+            .click(statsCell(suns));
+    finish();
+    EXPECT_GE(slept[1] - slept[0], 1000);
+    EXPECT_LT(slept[2] - slept[1], 600);
 }
 
 TEST_F(PacingTest, TheAutoplayerStartsWhenThePreferencesAreLeftAndPlaysTheBoard) {
     script.hurry().check([] { prefs.GameSpeed = speedCount - 1; });
-    startAutoplayer(script.then(inPause(20, typing("zP")))).screen("Gloomdeck 1.2").check([] {
-        EXPECT_TRUE(prefs.scenarioOver) << "other keys stopped it";
-    });
+    startAutoplayer(script, typing("zP")).screen("Gloomdeck 1.2");
+    script.check([] { EXPECT_TRUE(prefs.scenarioOver) << "other keys stopped it"; });
     finish();
 }
 
 TEST_F(PacingTest, KeysClicksAndACloseRequestStopTheAutoplayer) {
-    for (const char* key : {" ", "\x1B", "\r"}) expectStopBy(typing(key));
-    expectStopBy([](InputQueue& queue) { clickAt(queue, boardCell(3, bottomRow)); });
-    expectStopBy([](InputQueue& queue) {
-        pointerMoved(queue, 20, boardCell(0, bottomRow).y);
-        buttonChanged(queue, true);
-    });
-    EXPECT_EQ(firstRun(startAutoplayer(script.then(inPause(20, closeRequested)))), 0);
-    EXPECT_EQ(game.turns, 2);
+    const Point tile = boardCell(3, bottomRow);
+    const auto click = [=](InputQueue& queue) { clickAt(queue, tile); };
+    const auto hold = [=](InputQueue& queue) { pointAt(queue, tile, {true}); };
+    const auto stopped = [] { EXPECT_EQ(game.turns, 2) << "the move under way and the one chosen after it"; };
+    for (const Script::Step& step :
+         {typing(" "), typing("\x1B"), typing("\r"), Script::Step(click), Script::Step(hold)}) {
+        Script player = script;
+        startAutoplayer(player, step).check(stopped).release(tile).check(stopped);
+        EXPECT_EQ(firstRun(player.closeWindow()), 0);
+    }
+    EXPECT_EQ(firstRun(startAutoplayer(script, closeRequested)), 0);
+    stopped();
 }
 
 }  // namespace gloomdeck

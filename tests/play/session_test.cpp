@@ -1,4 +1,9 @@
-// Whole games: from the title to the banner, and on in the next run.
+// Whole games: from the title to the banner, on in the next run, and starts with something missing or
+// damaged.
+#include <filesystem>
+#include <fstream>
+#include <random>
+
 #include "content/campaigns.h"
 #include "content/story_texts.h"
 #include "platform/frame.h"
@@ -16,9 +21,7 @@ namespace {
 bool stands(const std::function<void()>& draw) {
     const Image before = screen();
     draw();
-    const bool same = screen().pixels == before.pixels;
-    screen() = before;
-    return same;
+    return std::exchange(screen().pixels, before.pixels) == before.pixels;
 }
 
 void expectBanner(const char* text) {
@@ -28,10 +31,9 @@ void expectBanner(const char* text) {
     EXPECT_EQ(continueButton.hidden, std::string(text) != "Campaign...");
     EXPECT_TRUE(stands([&] {
         drawBoardLabel(text, 193, 30);
+        drawBoardLabel("Score: " + std::to_string(ComputeScore()), -13, 12);
         if (!continueButton.hidden) drawButton(continueButton);
     })) << text;
-    const std::string score = "Score: " + std::to_string(ComputeScore());
-    EXPECT_TRUE(stands([&] { drawBoardLabel(score, -13, 12); })) << score;
 }
 
 void expectStory(int campaign, int number) {
@@ -40,41 +42,44 @@ void expectStory(int campaign, int number) {
     EXPECT_EQ(pixelAt(8, 41), 0xFF000000);
 }
 
-void goOn(Script& script, int way) {
-    if (way == 0) script.button(id::continueGame);
-    if (way > 0) script.key(way == 1 ? keycode::space : keycode::enter);
-}
-
 void playStages(Script& script, int campaign) {
-    for (int stage = 0; stage < campaignRow(campaign).scenarioCount; ++stage) {
-        script.check([=] { expectStory(campaign, stage + 1); })
-            .key(stage % 2 ? keycode::space : keycode::escape);
-        script.check([=] {
+    const int stages = campaignRow(campaign).scenarioCount;
+    for (int stage = 0; stage < stages; ++stage) {
+        script.check([=] { expectStory(campaign, stage + 1); });
+        script.key(stage % 2 ? keycode::space : keycode::escape).check([=] {
             EXPECT_EQ(game.scenario, stageEntry(campaignRow(campaign), stage));
             EXPECT_EQ(level(toughness), stage > 0 ? 35 : 0);
             level(toughness) = 35;
         });
-        const bool last = stage + 1 == campaignRow(campaign).scenarioCount;
-        script.hurry().clearBoard().check([=] { expectBanner(last ? "Campaign Won!" : "Campaign..."); });
-        if (last) script.key("H").key("q").check([] { expectBanner("Campaign Won!"); });
-        goOn(script, stage % 3);
+        const char* const banner = stage + 1 == stages ? "Campaign Won!" : "Campaign...";
+        script.hurry().clearBoard().check([=] { expectBanner(banner); });
+        script.key("H").key("q").check([=] { expectBanner(banner); });
+        stage % 3 ? script.key(stage % 3 == 1 ? keycode::space : keycode::enter)
+                  : script.button(id::continueGame);
     }
 }
 
 }  // namespace
 
+TEST_F(PlayTest, TheTitleGoesOnByAKeyAClickOrAfterFifteenSeconds) {
+    const auto titleStands = [] { EXPECT_EQ(pixelAt(407, 487), 0xFFFF00FF); };
+    const std::array ways{Script().check(titleStands).key("z"),
+                          Script().press({0, 0}).wait(20).check(titleStands).release({0, 0}),
+                          Script().wait(14.99).check(titleStands).wait(0.02)};
+    for (Script way : ways) EXPECT_EQ(firstRun(way.screen("Select a game").closeWindow()), 0);
+}
+
 TEST_F(PlayTest, ABoardIsClearedSavedAndFoundAgain) {
     Script script;
-    script.passTitle().screen("Select a game").key(keycode::right);
-    for (int i = 0; i < 8; ++i) script.key(keycode::backspace);
-    script.type("Mo").button(id::done).newest("Click on the bottom row of the map grid above.");
+    script.screen("Gloomdeck 1.2").passTitle().screen("Select a game").key(keycode::right);
+    script.type("\b\b\b\b\b\b\b\bMo").button(id::done);
+    script.newest("Click on the bottom row of the map grid above.");
     const auto won = [] { expectBanner("Congratulations!"); };
     script.clearBoard().check(won).key(keycode::space).check(won);
     script.button(id::exit).key("n").screen("Gloomdeck 1.2").button(id::exit).key("y");
     EXPECT_EQ(run(script), 0);
     EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
     EXPECT_EQ(dataFile("DGDG.dat"), std::string(reinterpret_cast<const char*>(&prefs), 52));
-
     Script again;
     again.passTitle().check(won).button(id::replay).check([] {
         EXPECT_EQ(game.turns, 0);
@@ -86,17 +91,17 @@ TEST_F(PlayTest, ABoardIsClearedSavedAndFoundAgain) {
 TEST_F(QuickPlayTest, ABoardInPlayIsTheSameInTheNextRun) {
     script.startScenario(2).check([] { giveHero(40); }).key("+").key("P").button(id::toggle + 6).key("q");
     for (int i = 0; i < 10; ++i) script.click(boardCell(i % columnCount, bottomRow));
-    EXPECT_EQ(run(script.closeWindow()), 0);
+    finish();
     const std::string before = gameBytes();
-    Script again;
-    again.passTitle().screen("Gloomdeck 1.2").check([&] {
+    script = Script().passTitle().screen("Gloomdeck 1.2").check([&] {
         EXPECT_EQ(gameBytes(), before);
         EXPECT_EQ(game.scenario, 1) << "the third of the list is Easy";
         EXPECT_EQ(game.turns, 10);
         EXPECT_EQ(prefs.GameSpeed, 3);
         EXPECT_TRUE(prefs.skipText);
     });
-    EXPECT_EQ(restart(again.closeWindow()), 0);
+    EXPECT_EQ(restart(script.closeWindow()), 0);
+    EXPECT_EQ(restart(Script().closeWindow()), 0) << "at the title";
     EXPECT_EQ(dataFile("DGDP.dat"), before);
 }
 
@@ -115,11 +120,53 @@ TEST_F(QuickPlayTest, AClearedStageWaitsForItsContinueInTheNextRun) {
     script.passTitle().button(id::done).click({100, 100}).hurry().clearBoard();
     finish();
     const auto waits = [] { expectBanner("Campaign..."); };
-    Script again;
-    again.passTitle().check(waits).key("P").key("q").check(waits).button(id::continueGame);
-    again.check([] { expectStory(0, 2); }).click({0, 0}).hurry().clearBoard();
-    EXPECT_EQ(restart(again.closeWindow()), 0);
+    script = Script().passTitle().check(waits).key("P").key("q").check(waits).button(id::continueGame);
+    script.check([] { expectStory(0, 2); }).click({0, 0}).hurry().clearBoard();
+    EXPECT_EQ(restart(script.closeWindow()), 0);
     EXPECT_TRUE(game.campaignWon);
+}
+
+TEST_F(QuickPlayTest, WithoutPicturesAndADataFolderTheGameIsPlayedAndNothingIsKept) {
+    script.check([] { EXPECT_EQ(pixelAt(0, 0), 0xFF000000); }).startScenario(0).hurry().clearBoard();
+    script.key("H").key("q").key("P").key("q").check([] { EXPECT_TRUE(prefs.scenarioOver); }).closeWindow();
+    for (const bool isFile : {false, true}) {
+        std::filesystem::remove_all(folder + "/Data");
+        if (isFile) std::ofstream(folder + "/Data") << "no folder";
+        EXPECT_EQ(restart(script), 0);
+        EXPECT_EQ(std::filesystem::is_regular_file(folder + "/Data"), isFile);
+        EXPECT_EQ(std::filesystem::exists(folder + "/Data"), isFile);
+    }
+}
+
+TEST_F(QuickPlayTest, OneDataFileAloneIsNotReadAndIsReplaced) {
+    writeDataFile("DGDG.dat", std::string(60, '\x02'));
+    EXPECT_EQ(run(Script().passTitle().screen("Select a game").closeWindow()), 0);
+    EXPECT_EQ(dataFile("DGDG.dat").substr(12, 8), "Alistair");
+    EXPECT_EQ(dataFile("DGDG.dat").substr(52), std::string(8, '\x02'));
+    EXPECT_EQ(dataFile("DGDP.dat").size(), sizeof game);
+}
+
+TEST_F(QuickPlayTest, DataFilesOfAnyBytesArePlayed) {
+    std::mt19937 random(20);
+    for (int i = 0; i < 40; ++i) {
+        SCOPED_TRACE(i);
+        const std::size_t size = std::array<std::size_t, 4>{1, 242, 484, 600}[random() % 4];
+        for (const char* name : {"DGDP.dat", "DGDG.dat"}) {
+            std::string bytes(size, '\0');
+            for (std::size_t at = 0; at < size; at += i % 2 ? 1 : 4)  // of any size, or mostly small numbers
+                bytes[at] = static_cast<char>(i % 2 ? random() : random() % 64);
+            writeDataFile(name, bytes);
+        }
+        const auto meddle = [&, poll = 0](InputQueue& queue) mutable {
+            if (++poll == 1000) endRequested(queue);
+            const auto number = static_cast<int>(random() % 100000);
+            if (poll % 20 == 0) keyTyped(queue, std::string(1, "PTHNRq y\r"[number % 9]));
+            if (poll % 20 == 10) clickAt(queue, {number % frameWidth, number / 9 % frameHeight});
+            return true;
+        };
+        EXPECT_EQ(restart(Script().passTitle().check([&] { script::feedAtPoll(meddle); })), 0);
+        EXPECT_EQ(dataFile("DGDP.dat").size(), std::max(size, sizeof game));
+    }
 }
 
 }  // namespace gloomdeck

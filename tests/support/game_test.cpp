@@ -2,17 +2,19 @@
 
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
+#include <deque>
 #include <filesystem>
 #include <fstream>
-#include <vector>
+#include <random>
+#include <set>
 
+#include "art/picture_files.h"
 #include "platform/clock.h"
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/random.h"
 #include "prefs/saved_data.h"
 #include "shell/layout.h"
 #include "shell/lifecycle.h"
@@ -25,107 +27,76 @@ namespace gloomdeck {
 namespace {
 
 constexpr int dungeon = 3;
-std::vector<std::string> folders;
+std::deque<FedRoll> fed;
+int missing = 0;
+std::mt19937_64 stream;
 
-bool isTerrain(int number) {
-    constexpr std::array terrain{tile::cellar, tile::ruins,        tile::portal,
-                                 tile::marble, tile::pictureFrame, tile::masonry};
-    return std::find(terrain.begin(), terrain.end(), number) != terrain.end();
-}
-
-std::size_t pixelIndex(int x, int y, int width) {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+double nextFed() {
+    constexpr int mostMissing = 10000;
+    if (fed.empty() && ++missing > mostMissing)
+        throw std::runtime_error("a loop waits for a roll that nobody feeds");
+    if (fed.empty()) return 0.0;
+    const FedRoll roll = fed.front();
+    fed.pop_front();
+    return (roll.value - 0.5) / roll.sides;
 }
 
 Colour flatPixel(int number, int x, int y) {
+    static const std::set<int> opaque{tile::cellar, tile::ruins,        tile::portal,
+                                      tile::marble, tile::pictureFrame, tile::masonry};
     const bool corner = (x < 2 || x > 29) && (y < 2 || y > 29);
-    return corner && !isTerrain(number) ? transparentColour : flatColour(number);
+    return corner && !opaque.contains(number) ? transparentColour : flatColour(number);
 }
 
-std::array<Image, tile::count> paintedFlatTiles() {
-    std::array<Image, tile::count> images;
-    for (int number = 1; number <= tile::count; ++number) {
-        Image& image = images[static_cast<std::size_t>(number - 1)];
-        image = createImage(tile::size, tile::size);
+std::string strip(int firstTile, int tiles) {
+    art::Canvas picture(tiles * tile::size, tile::size);
+    for (int x = 0; x < picture.width(); ++x)
         for (int y = 0; y < tile::size; ++y)
-            for (int x = 0; x < tile::size; ++x)
-                image.pixels[pixelIndex(x, y, tile::size)] = flatPixel(number, x, y);
-    }
-    return images;
+            picture.set(x, y, flatPixel(firstTile + x / tile::size, x % tile::size, y));
+    return art::bitmapFile(picture);
 }
 
-void append(std::string& bytes, std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFF));
+// The title stays unpainted: it is magenta all over.
+void writePictures(const std::string& folder) {
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder + "/dtiles.bmp", std::ios::binary) << strip(1, 49);
+    std::ofstream(folder + "/dtiles2.bmp", std::ios::binary) << strip(50, 49);
+    std::ofstream(folder + "/dtiles3.bmp", std::ios::binary) << strip(99, 50);
+    const art::Canvas title(frameWidth, frameHeight);
+    std::ofstream(folder + "/dtitle.bmp", std::ios::binary) << art::bitmapFile(title);
 }
 
-// A 24-bit bitmap, rows bottom up; every width here is a multiple of four.
-template <typename PixelAt>
-std::string bitmap(int width, int height, PixelAt at) {
-    std::string bytes = "BM";
-    const auto size = static_cast<std::uint32_t>(54 + 3 * width * height);
-    bytes.reserve(size);
-    for (const std::uint32_t value :
-         {size, 0U, 54U, 40U, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height),
-          1U | 24U << 16, 0U, size - 54, 0U, 0U, 0U, 0U})
-        append(bytes, value, 4);
-    for (int y = height - 1; y >= 0; --y)
-        for (int x = 0; x < width; ++x) append(bytes, at(x, y) & 0xFFFFFF, 3);
-    return bytes;
-}
-
-std::string flatStrip(int firstTile, int tiles) {
-    return bitmap(tiles * tile::size, tile::size,
-                  [=](int x, int y) { return flatPixel(firstTile + x / tile::size, x % tile::size, y); });
-}
-
-struct PictureFile {
-    const char* name;
-    std::string bytes;
-};
-
-// Made once: every test of the whole program writes them.
-const std::array<PictureFile, 4>& flatPictures() {
-    static const std::array<PictureFile, 4> files{{
-        {"dtiles.bmp", flatStrip(1, 49)},
-        {"dtiles2.bmp", flatStrip(50, 49)},
-        {"dtiles3.bmp", flatStrip(99, 50)},
-        {"dtitle.bmp", bitmap(frameWidth, frameHeight, [](int, int) { return 0x102030U; })},
-    }};
-    return files;
+std::string programFolder() {
+    return (std::filesystem::temp_directory_path() / "gloomdeck-").string() + std::to_string(getpid());
 }
 
 }  // namespace
+
+void rolls(const std::vector<FedRoll>& list) {
+    fed.insert(fed.end(), list.begin(), list.end());
+    useRandomSource(nextFed);
+}
+
+void seedRolls(std::uint64_t seed) {
+    stream.seed(seed);
+    useRandomSource([] { return static_cast<double>(stream() >> 11) * 0x1.0p-53; });
+}
+
+int leftoverRolls() { return static_cast<int>(fed.size()); }
 
 Colour flatColour(int tileNumber) {
     const auto n = static_cast<Colour>(tileNumber);
     return 0xFF000000 | (40 + n) << 16 | (n * 37 % 200 + 20) << 8 | (n * 91 % 180 + 10);
 }
 
-void makeFlatTiles() {
-    static const auto flat = paintedFlatTiles();  // painted once for all tests
-    tileImages = flat;
-    cellBackup = createImage(tile::size, tile::size);
+std::string makeProgramFolder(bool withPictures) {
+    removeProgramFolders();
+    std::filesystem::create_directories(programFolder() + "/Data");
+    if (withPictures) writePictures(programFolder() + "/gfx");
+    return programFolder();
 }
 
-void writeFlatPictures(const std::string& folder) {
-    std::filesystem::create_directories(folder + "/gfx");
-    for (const PictureFile& file : flatPictures())
-        std::ofstream(folder + "/gfx/" + file.name, std::ios::binary) << file.bytes;
-}
-
-std::string makeProgramFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "gloomdeck-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-    std::filesystem::create_directories(name + "/Data");
-    writeFlatPictures(name);
-    folders.push_back(name);
-    return name;
-}
-
-void removeProgramFolders() {
-    for (const std::string& folder : folders) std::filesystem::remove_all(folder);
-    folders.clear();
-}
+void removeProgramFolders() { std::filesystem::remove_all(programFolder()); }
 
 void resetProgram() {
     script::reset();
@@ -133,9 +104,11 @@ void resetProgram() {
     resetClock();
     resetFrame();
     resetCatalogue();
-    resetRolls();
     resetLifecycle();
     forgetSafePoint();
+    useRandomSource(nullptr);
+    fed.clear();
+    missing = 0;
     game = {};
     prefs = {};
     ui = {};
@@ -155,10 +128,16 @@ void makeEmptyBoard() {
 }
 
 void GameTest::SetUp() {
+    static const auto flatTiles = [] {  // loaded once for all tests
+        script::setFolder(makeProgramFolder());
+        loadTiles();
+        return tileImages;
+    }();
     resetProgram();
     openWindow(frameWidth, frameHeight);
     setDefaultColours(colour::text, colour::panel);
-    makeFlatTiles();
+    tileImages = flatTiles;
+    cellBackup = createImage(tile::size, tile::size);
     makeEmptyBoard();
     prefs.GameSpeed = speedCount - 1;
     prefs.currentScreen = screen_id::play;
@@ -167,13 +146,13 @@ void GameTest::SetUp() {
 
 void GameTest::TearDown() {
     EXPECT_EQ(leftoverRolls(), 0) << "fed rolls that nobody drew";
-    EXPECT_EQ(missingRolls(), 0) << "draws beyond the fed rolls";
+    EXPECT_EQ(missing, 0) << "draws beyond the fed rolls";
     EXPECT_EQ(ui.lockDepth, 0) << "the screen is still locked";
     resetProgram();
     removeProgramFolders();
 }
 
-Colour pixelAt(int x, int y) { return screen().pixels[pixelIndex(x, y, screen().width)]; }
+Colour pixelAt(int x, int y) { return screen().pixels[static_cast<std::size_t>(y * screen().width + x)]; }
 
 bool textStandsAt(int x, int y, std::string_view text, Colour ink) {
     for (std::size_t i = 0; i < text.size(); ++i)

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
@@ -13,24 +13,31 @@
 #include "rules/game_state.h"
 #include "shell/messages.h"
 #include "shell/ui_state.h"
-#include "tests/support/rolls.h"
 
 namespace gloomdeck {
+
+/// One roll to come: a die of so many sides shows a value.
+struct FedRoll {
+    int sides;
+    int value;
+};
+
+/// Appends rolls; from now on running out of them fails the test (each further roll shows 1).
+void rolls(const std::vector<FedRoll>& list);
+int leftoverRolls();
+void seedRolls(std::uint64_t seed);  ///< from a seeded stream instead
 
 /// Brings the whole program back to the moment before it starts.
 void resetProgram();
 
-/// A board of Empty cells in Dungeon columns (deck 60), as far from their end as can be, over flat tiles.
+/// A board of Empty cells in Dungeon columns (deck 60), as far from their end as can be.
 void makeEmptyBoard();
 
-/// Every tile becomes a square of its own colour with see-through corners (those of terrain are opaque).
-void makeFlatTiles();
+/// Every tile is a square of its own colour with see-through corners (those of terrain are opaque).
+Colour flatColour(int tileNumber);
 
-/// Writes the four picture files with the same flat tiles into folder/gfx.
-void writeFlatPictures(const std::string& folder);
-
-/// A new folder with an empty Data folder and flat pictures, removed when the fixture ends.
-std::string makeProgramFolder();
+/// A new folder with an empty Data folder and the flat tiles as picture files, removed when the fixture ends.
+std::string makeProgramFolder(bool withPictures = true);
 void removeProgramFolders();
 
 /// Records only: no window, no pictures beyond flat tiles, the speed "Mega fast", an empty board. Fed rolls
@@ -44,11 +51,11 @@ class GameTest : public ::testing::Test {
     static const std::string& newestMessage() { return messageBar.lines.front(); }
 };
 
-/// The colour of the frame's pixel.
-Colour pixelAt(int x, int y);
+Colour pixelAt(int x, int y);  ///< of the frame
 
-/// The colour that the flat tile of that number has in its middle.
-Colour flatColour(int tileNumber);
+/// Compares the frame with tests/play/golden/NAME.png; where they differ NAME.actual.png stands beside it.
+/// GLOOMDECK_REFRESH_GOLDEN=1 in the environment writes it anew.
+void expectGoldenFrame(const std::string& name);
 
 /// True when the pixels of the text's glyphs, and no others of its cells, have the colour of the ink.
 bool textStandsAt(int x, int y, std::string_view text, Colour ink);

@@ -1,10 +1,8 @@
 #include "tests/support/script.h"
 
-#include <filesystem>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <memory>
-#include <utility>
 
 #include "content/locations.h"
 #include "shell/layout.h"
@@ -19,31 +17,21 @@ std::deque<Script::Step> pending;
 
 bool handOut(InputQueue& queue) {
     if (pending.empty()) return false;
-    const Script::Step step = std::move(pending.front());
+    const Script::Step step = pending.front();
     pending.pop_front();
     step(queue);
     return true;
 }
 
-// Hands itself out again until it is done.
-struct Repeated {
-    std::function<bool()> done;
-    Script::Step step;
-    int left;  // more often is a fault
-
-    void operator()(InputQueue& queue) {
-        if (done()) return;
-        if (--left == 0) FAIL() << "a step was repeated for ever";
-        pending.push_front(*this);
-        step(queue);
-    }
-};
-
-// One unfinished column after the other.
-Point nextBottomTile() {
+// Clicks one unfinished column after the other; hands itself out again until the board is done.
+void clickTiles(InputQueue& queue, int most) {
+    if (prefs.scenarioOver) return;
+    if (most == 0) FAIL() << "the board is never cleared";
+    pending.emplace_front([=](InputQueue& next) { clickTiles(next, most - 1); });
     int col = game.turns % columnCount;
     while (column(col).finished) col = (col + 1) % columnCount;
-    return boardCell(col, bottomRow);
+    clickAt(queue, boardCell(col, bottomRow));
+    giveHero(200);
 }
 
 Point middleOf(const Rect& r) { return {(r.x1 + r.x2 + 1) / 2, (r.y1 + r.y2 + 1) / 2}; }
@@ -59,21 +47,42 @@ Point widgetCentre(int widgetId) {
     return {b.x + b.width / 2, b.y + b.height / 2};
 }
 
-void clickAt(InputQueue& queue, Point at) {
+void pointAt(InputQueue& queue, Point at, const std::vector<bool>& changes) {
     pointerMoved(queue, at.x, at.y);
-    buttonChanged(queue, true);
-    buttonChanged(queue, false);
+    for (const bool down : changes) buttonChanged(queue, down);
 }
 
 std::string gameBytes() { return {reinterpret_cast<const char*>(&game), sizeof game}; }
 
-void giveHero(int n) {
-    for (int item = 0; item < itemCount; ++item) count(item) = n;
+void giveHero(int n) { std::fill_n(game.inventory.begin(), itemCount, n); }
+
+Script& Script::then(const Step& step) {
+    steps.push_back(step);
+    return *this;
 }
 
-Script& Script::then(Step step) {
-    steps.push_back(std::move(step));
-    return *this;
+Script& Script::check(const std::function<void()>& look) {
+    return then([=](InputQueue&) { look(); });
+}
+
+Script& Script::screen(const std::string& title) {
+    return check([=] { EXPECT_EQ(script::windowTitle(), title); });
+}
+
+Script& Script::newest(const std::string& text) {
+    return check([=] { EXPECT_EQ(messageBar.lines.front(), text); });
+}
+
+Script& Script::mouse(Point at, const std::vector<bool>& changes) {
+    return then([=](InputQueue& queue) { pointAt(queue, at, changes); });
+}
+
+Script& Script::button(int widgetId) {
+    return then([=](InputQueue& queue) { clickAt(queue, widgetCentre(widgetId)); });
+}
+
+Script& Script::wait(double seconds) {
+    return check([=] { script::advanceClock(seconds); });
 }
 
 Script& Script::key(std::string_view text) {
@@ -83,60 +92,6 @@ Script& Script::key(std::string_view text) {
 Script& Script::type(std::string_view text) {
     for (const char character : text) key(std::string(1, character));
     return *this;
-}
-
-Script& Script::move(Point at) {
-    return then([=](InputQueue& queue) { pointerMoved(queue, at.x, at.y); });
-}
-
-Script& Script::press(Point at) {
-    return then([=](InputQueue& queue) {
-        pointerMoved(queue, at.x, at.y);
-        buttonChanged(queue, true);
-    });
-}
-
-Script& Script::release(Point at) {
-    return then([=](InputQueue& queue) {
-        pointerMoved(queue, at.x, at.y);
-        buttonChanged(queue, false);
-    });
-}
-
-Script& Script::leave() {
-    return then([](InputQueue& queue) { pointerLeft(queue); });
-}
-
-Script& Script::click(Point at) {
-    return then([=](InputQueue& queue) { clickAt(queue, at); });
-}
-
-Script& Script::button(int widgetId) {
-    return then([=](InputQueue& queue) { clickAt(queue, widgetCentre(widgetId)); });
-}
-
-Script& Script::closeWindow() {
-    return then([](InputQueue& queue) { closeRequested(queue); });
-}
-
-Script& Script::wait(double seconds) {
-    return then([=](InputQueue&) { script::advanceClock(seconds); });
-}
-
-Script& Script::check(std::function<void()> look) {
-    return then([look = std::move(look)](InputQueue&) { look(); });
-}
-
-Script& Script::screen(std::string_view windowTitle) {
-    return check([title = std::string(windowTitle)] { EXPECT_EQ(script::windowTitle(), title); });
-}
-
-Script& Script::newest(std::string_view message) {
-    return check([text = std::string(message)] { EXPECT_EQ(messageBar.lines.front(), text); });
-}
-
-Script& Script::until(std::function<bool()> done, Step step) {
-    return then(Repeated{.done = std::move(done), .step = std::move(step), .left = 3000});
 }
 
 Script& Script::startScenario(int listPosition) {
@@ -153,11 +108,7 @@ Script& Script::hurry() {
 }
 
 Script& Script::clearBoard() {
-    return until([] { return prefs.scenarioOver != 0; },
-                 [](InputQueue& queue) {
-                     clickAt(queue, nextBottomTile());
-                     giveHero(200);
-                 });
+    return then([](InputQueue& queue) { clickTiles(queue, 3000); });
 }
 
 void startScript(const Script& script) {
@@ -170,46 +121,33 @@ void finishScript() {
     pending.clear();
 }
 
-void dropScript() { pending.clear(); }
+void PlayTest::SetUp() {
+    resetProgram();
+    folder = makeProgramFolder(withPictures);
+}
 
-int runToItsEnd(const std::string& folder) {
+int PlayTest::run(const Script& player) {
     script::setFolder(folder);
     script::setFramePeriod(0.25);  // few pictures: copying them is what takes time here
+    startScript(player);
     try {
         runGloomdeck();
     } catch (const script::ProgramEnded& end) {
+        finishScript();
         return end.exitCode;
-    } catch (const script::RanDry& dry) {
-        ADD_FAILURE() << dry.what();
-        ui.lockDepth = 0;
     }
     return -1;
 }
 
-int runProgram(const Script& script, const std::string& folder) {
-    startScript(script);
-    const int exitCode = runToItsEnd(folder);
-    finishScript();
-    return exitCode;
-}
-
-void PlayTest::SetUp() {
-    GameTest::SetUp();
+int PlayTest::restart(const Script& player) {
     resetProgram();
-    folder = makeProgramFolder();
+    return run(player);
 }
 
-int PlayTest::restart(const Script& script) {
-    resetProgram();
-    return run(script);
+int PlayTest::firstRun(const Script& player) {
+    folder = makeProgramFolder(withPictures);
+    return restart(player);
 }
-
-int PlayTest::firstRun(const Script& script) {
-    for (const char* name : {"DGDP.dat", "DGDG.dat"}) std::filesystem::remove(folder + "/Data/" + name);
-    return restart(script);
-}
-
-void PlayTest::removePictures() { std::filesystem::remove_all(folder + "/gfx"); }
 
 std::string PlayTest::dataFile(const std::string& name) const {
     std::ifstream file(folder + "/Data/" + name, std::ios::binary);

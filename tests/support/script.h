@@ -15,33 +15,31 @@ Point boardCell(int col, int row);  ///< the cell's middle
 Point statsCell(int item);
 Point widgetCentre(int widgetId);
 
-/// A quick click, as hosts report it.
-void clickAt(InputQueue& queue, Point at);
+/// The pointer moves there, then the button goes down (true) and up.
+void pointAt(InputQueue& queue, Point at, const std::vector<bool>& changes);
+inline void clickAt(InputQueue& queue, Point at) { pointAt(queue, at, {true, false}); }
 
-/// The game record as its file holds it.
-std::string gameBytes();
-
-/// Gives the hero so many of everything.
-void giveHero(int n);
+std::string gameBytes();  ///< the game record as its file holds it
+void giveHero(int n);     ///< gives so many of everything
 
 struct Script {
     using Step = std::function<void(InputQueue&)>;
 
+    Script& then(const Step& step);
+    Script& check(const std::function<void()>& look);
+    Script& screen(const std::string& title);  ///< expects that title of the window
+    Script& newest(const std::string& text);   ///< expects that newest message
     Script& key(std::string_view text);
     Script& type(std::string_view text);  ///< one key a character
-    Script& move(Point at);
-    Script& press(Point at);
-    Script& release(Point at);
-    Script& leave();
-    Script& click(Point at);       ///< moves there, presses and releases at once
+    Script& mouse(Point at, const std::vector<bool>& changes);
+    Script& move(Point at) { return mouse(at, {}); }
+    Script& press(Point at) { return mouse(at, {true}); }
+    Script& release(Point at) { return mouse(at, {false}); }
+    Script& click(Point at) { return mouse(at, {true, false}); }
     Script& button(int widgetId);  ///< clicks the widget where it stands by then
-    Script& closeWindow();
+    Script& leave() { return then(pointerLeft); }
+    Script& closeWindow() { return then(closeRequested); }
     Script& wait(double seconds);  ///< the clock moves on
-    Script& check(std::function<void()> look);
-    Script& screen(std::string_view windowTitle);  ///< expects that screen
-    Script& newest(std::string_view message);      ///< expects that newest message
-    Script& then(Step step);
-    Script& until(std::function<bool()> done, Step step);  ///< the step again and again
     Script& passTitle() { return key(" "); }
     Script& startScenario(int listPosition);  ///< from the title of a first start
     Script& hurry();                          ///< the next tile of every column is The End
@@ -50,43 +48,31 @@ struct Script {
     std::deque<Step> steps;
 };
 
-/// Runs the whole program in that folder with the script as its player; the answer is its exit code. A script
-/// that runs dry, or that is not used up, fails the test (answer -1).
-int runProgram(const Script& script, const std::string& folder);
-
-/// The same with whatever feeders are set.
-int runToItsEnd(const std::string& folder);
-
-/// Lets the script play whatever runs next; the same failures are reported by finishScript.
+/// Lets the script play whatever runs next; what it leaves unused is reported by finishScript.
 void startScript(const Script& script);
 void finishScript();
-
-/// The rest of the script is not played: the program must end by itself.
-void dropScript();
 
 /// The whole program under test: it starts in a folder of its own.
 class PlayTest : public GameTest {
   protected:
     void SetUp() override;
-    int run(const Script& script) { return runProgram(script, folder); }
-    int restart(const Script& script);   ///< the next run in the same folder, nothing left of the one before
-    int firstRun(const Script& script);  ///< the next run, its Data folder empty again
-    void removePictures();               ///< for many quick runs
 
-    /// The bytes of Data/name, empty when there is no such file.
-    std::string dataFile(const std::string& name) const;
+    /// Runs the program with the script as its player; the answer is its exit code.
+    int run(const Script& player);
+    int restart(const Script& player);   ///< the next run in the same folder, nothing left of the one before
+    int firstRun(const Script& player);  ///< the next run, its Data folder empty again
+
+    std::string dataFile(const std::string& name) const;  ///< its bytes; empty when there is none
     void writeDataFile(const std::string& name, const std::string& bytes) const;
 
+    bool withPictures = true;
     std::string folder;
 };
 
 /// The same without pictures, for many quick runs of one script.
 class QuickPlayTest : public PlayTest {
   protected:
-    void SetUp() override {
-        PlayTest::SetUp();
-        removePictures();
-    }
+    QuickPlayTest() { withPictures = false; }
 
     /// The window is closed after the last step.
     void finish() { EXPECT_EQ(firstRun(script.closeWindow()), 0); }
