@@ -37,7 +37,7 @@ TEST_F(BoardTest, OnlySevenFinishedColumnsFinishItAndOnlyTheLastStageWinsTheCamp
     EXPECT_EQ(game.campaignWon, 0U);
     // clang-format off
     for (const auto& [campaign, stage, won] : {
-        std::tuple{none, 3, 0U}, {none, -1, 0U}, {1, 0, 0U}, {1, 2, 0U}, {1, 4, 0U}, {1, most, 0U}, {1, 3, 1U}}) {
+        std::tuple{none, 3, 0U}, {none, -1, 0U}, {1, 2, 0U}, {1, 4, 0U}, {1, most, 0U}, {1, 3, 1U}}) {
         // clang-format on
         game.campaign = campaign;
         game.campaignStage = stage;
@@ -94,7 +94,6 @@ TEST_F(BoardTest, AnEyeHidesItselfAndAllBelowItButNothingFromTheBottomRow) {
     EXPECT_EQ(FirstEyeRow(3), 2);
     EXPECT_FALSE(IsHiddenByEye(2, 6));
     turnsLeft(magicSight) = 1;
-    EXPECT_EQ(FirstEyeRow(3), none);
     EXPECT_FALSE(IsHiddenByEye(3, 6));
 }
 

