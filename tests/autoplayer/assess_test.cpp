@@ -21,10 +21,10 @@ using Step = std::array<int, 4>;
 struct Case {
     const char* name;
     int code;
+    int row;
     void (*prepare)();
     std::int32_t* resource;
     std::vector<Step> steps;
-    int row = bottomRow;
 };
 
 void plain() {}
@@ -45,48 +45,48 @@ void nowhereToGo() {
 
 // clang-format off
 const Case cases[] = {
-    {"Plain", Empty, plain, &cell(subject, 6), {{Gold, 6, good}, {Scroll, 8, good}, {Empty, 3, good},
+    {"Plain", Empty, 6, plain, &cell(subject, 6), {{Gold, 6, good}, {Scroll, 8, good}, {Empty, 3, good},
         {Chest, 9, good}, {Fruit, 6, good}, {Meat, 8, good}, {Book, 9, good}, {Flower, 7, easy}}},
-    {"Sight", Empty, sight, &cell(subject, 6), {{Cave, 20, easy}, {Darkness, 19, easy}, {Flower, 0, hard}}},
-    {"Cave", Cave, plain, &count(torches), {{1, -9, hard, 1}, {2, -9, hard}, {9, -9, hard}, {10, -1, easy}}},
-    {"Darkness", Darkness, plain, &count(torches), {{0, -9, hard, 1}, {1, -9, hard}, {7, -9, hard}, {8, -1, easy}}},
+    {"Sight", Empty, 6, sight, &cell(subject, 6), {{Cave, 20, easy}, {Darkness, 19, easy}, {Flower, 0, hard}}},
+    {"Cave", Cave, 6, plain, &count(torches), {{1, -9, hard, 1}, {2, -9, hard}, {9, -9, hard}, {10, -1, easy}}},
+    {"Darkness", Darkness, 6, plain, &count(torches), {{0, -9, hard, 1}, {1, -9, hard}, {7, -9, hard}, {8, -1, easy}}},
 
-    {"BackpackKeys", Backpack, [] { count(torches) = 8; }, &count(keys), {{7, 7, good}, {8, 4, good}}},
-    {"BackpackPicks", Backpack, [] { count(torches) = 8; }, &level(lockpicking), {{1, 7, good}, {2, 4, good}}},
-    {"BackpackTorches", Backpack, [] { count(keys) = 8; }, &count(torches), {{7, 7, good}, {8, 4, good}}},
-    {"ChestKeys", LockedChest, plain, &count(keys),
+    {"BackpackKeys", Backpack, 6, [] { count(torches) = 8; }, &count(keys), {{7, 7, good}, {8, 4, good}}},
+    {"BackpackPicks", Backpack, 6, [] { count(torches) = 8; }, &level(lockpicking), {{1, 7, good}, {2, 4, good}}},
+    {"BackpackTorches", Backpack, 6, [] { count(keys) = 8; }, &count(torches), {{7, 7, good}, {8, 4, good}}},
+    {"ChestKeys", LockedChest, 6, plain, &count(keys),
         {{0, -10, hard, 1}, {1, 1, hard}, {2, 8, easy}, {7, 8, easy}, {8, 10, good}}},
-    {"ChestPicks", LockedChest, plain, &level(lockpicking), {{1, 1, hard}, {9, 1, hard}, {10, 8, easy}}},
-    {"DoorKeys", Door, plain, &count(keys), {{0, -14, hard, 1}, {1, -9, hard}, {7, -9, hard}, {8, -1, easy}}},
-    {"DoorPicks", Door, plain, &level(lockpicking), {{1, -9, hard}, {19, -9, hard}, {20, -1, easy}}},
-    {"DoubleDoorKeys", DoubleDoor, [] { level(lockpicking) = 1; }, &count(keys),
+    {"ChestPicks", LockedChest, 6, plain, &level(lockpicking), {{1, 1, hard}, {9, 1, hard}, {10, 8, easy}}},
+    {"DoorKeys", Door, 6, plain, &count(keys), {{0, -14, hard, 1}, {1, -9, hard}, {7, -9, hard}, {8, -1, easy}}},
+    {"DoorPicks", Door, 6, plain, &level(lockpicking), {{1, -9, hard}, {19, -9, hard}, {20, -1, easy}}},
+    {"DoubleDoorKeys", DoubleDoor, 6, [] { level(lockpicking) = 1; }, &count(keys),
         {{1, -15, hard, 1}, {2, -10, hard}, {9, -10, hard}, {10, -1, easy}}},
-    {"DoubleDoorPicks", DoubleDoor, plain, &level(lockpicking), {{2, -10, hard}, {24, -10, hard}, {25, -1, easy}}},
+    {"DoubleDoorPicks", DoubleDoor, 6, plain, &level(lockpicking), {{2, -10, hard}, {24, -10, hard}, {25, -1, easy}}},
 
-    {"Trap", Trap, plain, &count(health), {{-5, -10, hard}, {60, -10, hard}, {61, -2, easy}}},
-    {"Skeleton", Skeleton, plain, &count(health), {{0, -15, hard, 1}, {1, -10, hard}, {18, -10, hard}, {19, -2, easy}}},
-    {"King", SkeletonKing, plain, &count(health), {{0, -15, hard, 1}, {1, -9, hard}, {54, -9, hard}, {55, -1, easy}}},
-    {"Eye", HypnoEye, plain, &count(health), {{0, -15, hard, 1}, {1, -10, hard}, {50, -10, hard}, {51, -2, easy}}},
-    {"Above", Empty, plain, &cell(subject, 5),
-        {{Skeleton, -10, hard, 1}, {SkeletonKing, -9, hard, 1}, {HypnoEye, -10, hard, 1}, {Demon, -10, grief}}, 5},
+    {"Trap", Trap, 6, plain, &count(health), {{-5, -10, hard}, {60, -10, hard}, {61, -2, easy}}},
+    {"Skeleton", Skeleton, 6, plain, &count(health), {{0, -15, hard, 1}, {1, -10, hard}, {18, -10, hard}, {19, -2, easy}}},
+    {"King", SkeletonKing, 6, plain, &count(health), {{0, -15, hard, 1}, {1, -9, hard}, {54, -9, hard}, {55, -1, easy}}},
+    {"Eye", HypnoEye, 6, plain, &count(health), {{0, -15, hard, 1}, {1, -10, hard}, {50, -10, hard}, {51, -2, easy}}},
+    {"Above", Empty, 5, plain, &cell(subject, 5),
+        {{Skeleton, -10, hard, 1}, {SkeletonKing, -9, hard, 1}, {HypnoEye, -10, hard, 1}, {Demon, -10, grief}}},
 
-    {"GhostFree", Ghost, plain, &count(health), {{0, -20, grief}, {99, -20, grief}}},
-    {"GhostLockedIn", Ghost, lockedIn, &count(health), {{0, -10, grief, 1}, {6, -10, hard}, {7, -2, easy}}},
-    {"GhostBesideHidden", Ghost, besideHidden, &count(health), {{0, -20, grief, 1}, {99, -20, grief}}},
-    {"GhostStunned", Ghost, stunned, &count(health), {{0, -10, grief, 1}, {6, -2, hard}, {7, 12, easy}}},
+    {"GhostFree", Ghost, 6, plain, &count(health), {{0, -20, grief}, {99, -20, grief}}},
+    {"GhostLockedIn", Ghost, 6, lockedIn, &count(health), {{0, -10, grief, 1}, {6, -10, hard}, {7, -2, easy}}},
+    {"GhostBesideHidden", Ghost, 6, besideHidden, &count(health), {{0, -20, grief, 1}, {99, -20, grief}}},
+    {"GhostStunned", Ghost, 6, stunned, &count(health), {{0, -10, grief, 1}, {6, -2, hard}, {7, 12, easy}}},
 
-    {"ThievesStunned", Empty, stunned, &cell(subject, 6), {{Thief, 18, easy}, {MasterThief, 20, easy}}},
-    {"ThievesStunnedAbove", Empty, stunned, &cell(subject, 5), {{Thief, -20, easy}, {MasterThief, -18, easy}}, 5},
-    {"Thief", Thief, [] { count(bombs) = 3; }, &count(health), {{-3, -20, grief, 1}, {-2, -20, grief}}},
-    {"MasterThief", MasterThief, plain, &count(bombs), {{0, -18, grief, 1}, {1, -18, grief}}},
+    {"ThievesStunned", Empty, 6, stunned, &cell(subject, 6), {{Thief, 18, easy}, {MasterThief, 20, easy}}},
+    {"ThievesStunnedAbove", Empty, 5, stunned, &cell(subject, 5), {{Thief, -20, easy}, {MasterThief, -18, easy}}},
+    {"Thief", Thief, 6, [] { count(bombs) = 3; }, &count(health), {{-3, -20, grief, 1}, {-2, -20, grief}}},
+    {"MasterThief", MasterThief, 6, plain, &count(bombs), {{0, -18, grief, 1}, {1, -18, grief}}},
 
-    {"Filth", OozingFilth, plain, &count(health), {{0, -22, grief, 1}, {1, -20, grief}}},
-    {"FilthAbove", OozingFilth, plain, &count(health), {{0, -10, grief, 1}, {1, -10, grief}}, 5},
-    {"FilthStunned", OozingFilth, stunned, &count(health), {{0, -20, grief, 1}, {30, -10, hard}, {31, 16, easy}}},
-    {"FilthStunnedAbove", OozingFilth, stunned, &count(health), {{0, -10, grief, 1}, {99, -10, hard}}, 5},
-    {"Demon", Demon, plain, &count(health), {{0, -22, grief}, {1, -20, grief}}},
-    {"DemonNowhereToGo", Demon, nowhereToGo, &count(health), {{0, -22, grief, 1}, {1, -20, grief}}},
-    {"DemonStunned", Demon, stunned, &count(health), {{0, -20, grief, 1}, {65, -10, hard, 1}, {66, 15, easy, 1}}},
+    {"Filth", OozingFilth, 6, plain, &count(health), {{0, -22, grief, 1}, {1, -20, grief}}},
+    {"FilthAbove", OozingFilth, 5, plain, &count(health), {{0, -10, grief, 1}, {1, -10, grief}}},
+    {"FilthStunned", OozingFilth, 6, stunned, &count(health), {{0, -20, grief, 1}, {30, -10, hard}, {31, 16, easy}}},
+    {"FilthStunnedAbove", OozingFilth, 5, stunned, &count(health), {{0, -10, grief, 1}, {99, -10, hard}}},
+    {"Demon", Demon, 6, plain, &count(health), {{0, -22, grief}, {1, -20, grief}}},
+    {"DemonNowhereToGo", Demon, 6, nowhereToGo, &count(health), {{0, -22, grief, 1}, {1, -20, grief}}},
+    {"DemonStunned", Demon, 6, stunned, &count(health), {{0, -20, grief, 1}, {65, -10, hard, 1}, {66, 15, easy, 1}}},
 };
 // clang-format on
 
