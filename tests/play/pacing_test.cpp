@@ -4,10 +4,8 @@
 
 namespace gloomdeck {
 
-namespace {
-
 // Calls back once, in that pause of an action.
-Script::Step inPause(int number, const Script::Step& step) {
+static Script::Step inPause(int number, const Script::Step& step) {
     return [=](InputQueue&) {
         script::feedWhenPausing([left = number, step](InputQueue& queue) mutable {
             if (queue.paused && --left == 0) step(queue);
@@ -16,7 +14,7 @@ Script::Step inPause(int number, const Script::Step& step) {
     };
 }
 
-Script::Step typing(std::string_view text) {
+static Script::Step typing(std::string_view text) {
     return [=](InputQueue& queue) {
         for (const char c : text) keyTyped(queue, std::string(1, c));
     };
@@ -41,8 +39,6 @@ class PacingTest : public QuickPlayTest {
     }
 };
 
-}  // namespace
-
 TEST_F(PacingTest, ImpatientClicksDuringAnActionSpendOneMove) {
     script.then(inPause(5, [](InputQueue& queue) {
         for (int col = 1; col < columnCount; ++col) clickAt(queue, boardCell(col, bottomRow));
@@ -57,8 +53,7 @@ TEST_F(PacingTest, ImpatientClicksDuringAnActionSpendOneMove) {
 TEST_F(PacingTest, KeysTypedDuringAnActionActAfterItOneAPass) {
     script.then(inPause(5, typing("+P++qR"))).click(boardCell(0, bottomRow)).key("n");
     script.screen("Gloomdeck 1.2").check([] {
-        EXPECT_EQ(prefs.GameSpeed, 5);
-        EXPECT_EQ(game.turns, 1);
+        EXPECT_EQ(std::pair(prefs.GameSpeed, game.turns), std::pair(5, 1));
     });
     finish();
 }

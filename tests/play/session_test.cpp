@@ -15,16 +15,14 @@
 
 namespace gloomdeck {
 
-namespace {
-
 // Drawing it again changes nothing.
-bool stands(const std::function<void()>& draw) {
+static bool stands(const std::function<void()>& draw) {
     const Image before = screen();
     draw();
     return std::exchange(screen().pixels, before.pixels) == before.pixels;
 }
 
-void expectBanner(const char* text) {
+static void expectBanner(const char* text) {
     EXPECT_EQ(script::windowTitle(), "Gloomdeck 1.2");
     EXPECT_TRUE(prefs.scenarioOver);
     const Button& continueButton = widget(id::continueGame);
@@ -36,56 +34,27 @@ void expectBanner(const char* text) {
     })) << text;
 }
 
-void expectStory(int campaign, int number) {
-    const std::string text(storyText(campaign, number));
-    EXPECT_TRUE(stands([&] { drawWrappedText(text, 16, 48, 26, 12); })) << text;
-    EXPECT_EQ(pixelAt(8, 41), 0xFF000000);
-}
-
-void playStages(Script& script, int campaign) {
-    const int stages = campaignRow(campaign).scenarioCount;
-    for (int stage = 0; stage < stages; ++stage) {
-        script.check([=] { expectStory(campaign, stage + 1); });
-        script.key(stage % 2 ? keycode::space : keycode::escape).check([=] {
-            EXPECT_EQ(game.scenario, stageEntry(campaignRow(campaign), stage));
-            EXPECT_EQ(level(toughness), stage > 0 ? 35 : 0);
-            level(toughness) = 35;
-        });
-        const char* const banner = stage + 1 == stages ? "Campaign Won!" : "Campaign...";
-        script.hurry().clearBoard().check([=] { expectBanner(banner); });
-        script.key("H").key("q").check([=] { expectBanner(banner); });
-        stage % 3 ? script.key(stage % 3 == 1 ? keycode::space : keycode::enter)
-                  : script.button(id::continueGame);
-    }
-}
-
-}  // namespace
-
-TEST_F(PlayTest, TheTitleGoesOnByAKeyAClickOrAfterFifteenSeconds) {
-    const auto titleStands = [] { EXPECT_EQ(pixelAt(407, 487), 0xFFFF00FF); };
-    const std::array ways{Script().check(titleStands).key("z"),
-                          Script().press({0, 0}).wait(20).check(titleStands).release({0, 0}),
-                          Script().wait(14.99).check(titleStands).wait(0.02)};
-    for (Script way : ways) EXPECT_EQ(firstRun(way.screen("Select a game").closeWindow()), 0);
+static void expectStory(int campaign, int number) {
+    const auto draw = [=] { drawWrappedText(std::string(storyText(campaign, number)), 16, 48, 26, 12); };
+    EXPECT_TRUE(stands(draw)) << campaign << ", " << number;
 }
 
 TEST_F(PlayTest, ABoardIsClearedSavedAndFoundAgain) {
     Script script;
-    script.screen("Gloomdeck 1.2").passTitle().screen("Select a game").key(keycode::right);
-    script.type("\b\b\b\b\b\b\b\bMo").button(id::done);
-    script.newest("Click on the bottom row of the map grid above.");
+    script.screen("Gloomdeck 1.2").check([] { EXPECT_EQ(pixelAt(407, 487), 0xFFFF00FF) << "the title"; });
+    script.passTitle().screen("Select a game").key(keycode::right);
+    script.type("\b\b\b\b\b\b\b\bMo")
+        .button(id::done)
+        .newest("Click on the bottom row of the map grid above.");
     const auto won = [] { expectBanner("Congratulations!"); };
     script.clearBoard().check(won).key(keycode::space).check(won);
     script.button(id::exit).key("n").screen("Gloomdeck 1.2").button(id::exit).key("y");
     EXPECT_EQ(run(script), 0);
     EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
     EXPECT_EQ(dataFile("DGDG.dat"), std::string(reinterpret_cast<const char*>(&prefs), 52));
-    Script again;
-    again.passTitle().check(won).button(id::replay).check([] {
-        EXPECT_EQ(game.turns, 0);
-        EXPECT_EQ(nameText(game.playerName), "Mo");
-    });
+    Script again = Script().passTitle().check(won).button(id::replay).check([] { EXPECT_EQ(game.turns, 0); });
     EXPECT_EQ(restart(again.closeWindow()), 0);
+    EXPECT_EQ(nameText(game.playerName), "Mo");
 }
 
 TEST_F(QuickPlayTest, ABoardInPlayIsTheSameInTheNextRun) {
@@ -95,10 +64,8 @@ TEST_F(QuickPlayTest, ABoardInPlayIsTheSameInTheNextRun) {
     const std::string before = gameBytes();
     script = Script().passTitle().screen("Gloomdeck 1.2").check([&] {
         EXPECT_EQ(gameBytes(), before);
-        EXPECT_EQ(game.scenario, 1) << "the third of the list is Easy";
-        EXPECT_EQ(game.turns, 10);
-        EXPECT_EQ(prefs.GameSpeed, 3);
-        EXPECT_TRUE(prefs.skipText);
+        EXPECT_EQ(std::pair(game.scenario, game.turns), std::pair(1, 10)) << "Easy, the third of the list";
+        EXPECT_EQ(std::pair(prefs.GameSpeed, switchIsOn(6)), std::pair(3, true));
     });
     EXPECT_EQ(restart(script.closeWindow()), 0);
     EXPECT_EQ(restart(Script().closeWindow()), 0) << "at the title";
@@ -110,7 +77,20 @@ TEST_F(QuickPlayTest, EveryCampaignGoesFromItsFirstStoryToItsBanner) {
         SCOPED_TRACE(campaignRow(campaign).name);
         script = Script().passTitle();
         for (int i = 0; i < campaign; ++i) script.key(keycode::down);
-        playStages(script.key(keycode::enter), campaign);
+        script.key(keycode::enter);
+        const int stages = campaignRow(campaign).scenarioCount;
+        for (int stage = 0; stage < stages; ++stage) {
+            script.check([=] { expectStory(campaign, stage + 1); });
+            script.key(stage % 2 ? keycode::space : keycode::escape).check([=] {
+                EXPECT_EQ(game.scenario, stageEntry(campaignRow(campaign), stage));
+                EXPECT_EQ(std::exchange(level(toughness), 35), stage > 0 ? 35 : 0);
+            });
+            const char* const banner = stage + 1 == stages ? "Campaign Won!" : "Campaign...";
+            script.hurry().clearBoard().check([=] { expectBanner(banner); });
+            script.key("H").key("q").check([=] { expectBanner(banner); });
+            stage % 3 ? script.key(stage % 3 == 1 ? keycode::space : keycode::enter)
+                      : script.button(id::continueGame);
+        }
         script.key(keycode::space).key("T").check([] { expectBanner("Campaign Won!"); });
         finish();
     }
@@ -133,7 +113,6 @@ TEST_F(QuickPlayTest, WithoutPicturesAndADataFolderTheGameIsPlayedAndNothingIsKe
         std::filesystem::remove_all(folder + "/Data");
         if (isFile) std::ofstream(folder + "/Data") << "no folder";
         EXPECT_EQ(restart(script), 0);
-        EXPECT_EQ(std::filesystem::is_regular_file(folder + "/Data"), isFile);
         EXPECT_EQ(std::filesystem::exists(folder + "/Data"), isFile);
     }
 }
@@ -148,24 +127,22 @@ TEST_F(QuickPlayTest, OneDataFileAloneIsNotReadAndIsReplaced) {
 
 TEST_F(QuickPlayTest, DataFilesOfAnyBytesArePlayed) {
     std::mt19937 random(20);
+    const auto meddle = [&, poll = 0](InputQueue& queue) mutable {
+        const auto number = static_cast<int>(random() % 100000);
+        if (++poll == 400) endRequested(queue);
+        if (poll % 20 == 0) keyTyped(queue, std::string(1, "PTHNRq y\r"[number % 9]));
+        if (poll % 20 == 10) clickAt(queue, {number % frameWidth, number / 9 % frameHeight});
+        return true;
+    };
     for (int i = 0; i < 40; ++i) {
-        SCOPED_TRACE(i);
-        const std::size_t size = std::array<std::size_t, 4>{1, 242, 484, 600}[random() % 4];
         for (const char* name : {"DGDP.dat", "DGDG.dat"}) {
-            std::string bytes(size, '\0');
-            for (std::size_t at = 0; at < size; at += i % 2 ? 1 : 4)  // of any size, or mostly small numbers
-                bytes[at] = static_cast<char>(i % 2 ? random() : random() % 64);
+            std::string bytes(random() % 700, '\0');
+            for (std::size_t at = 0; at < bytes.size(); at += i % 2 ? 1 : 4)  // mostly small numbers
+                bytes[at] = static_cast<char>(random() % (i % 2 ? 256 : 64));
             writeDataFile(name, bytes);
         }
-        const auto meddle = [&, poll = 0](InputQueue& queue) mutable {
-            if (++poll == 1000) endRequested(queue);
-            const auto number = static_cast<int>(random() % 100000);
-            if (poll % 20 == 0) keyTyped(queue, std::string(1, "PTHNRq y\r"[number % 9]));
-            if (poll % 20 == 10) clickAt(queue, {number % frameWidth, number / 9 % frameHeight});
-            return true;
-        };
-        EXPECT_EQ(restart(Script().passTitle().check([&] { script::feedAtPoll(meddle); })), 0);
-        EXPECT_EQ(dataFile("DGDP.dat").size(), std::max(size, sizeof game));
+        EXPECT_EQ(restart(Script().check([&] { script::feedAtPoll(meddle); })), 0) << i;
+        EXPECT_GE(dataFile("DGDP.dat").size(), sizeof game);
     }
 }
 
