@@ -31,7 +31,7 @@ Pixels drawn(Draw draw, Places... places) {
     return found;
 }
 
-void putNumbered(int x, int y, Colour) {
+void putNumbered(int x, int y, Colour /*ink*/) {
     Image image = createImage(24, 20);
     Colour next = 0;  // every pixel tells its own place
     for (Colour& pixel : image.pixels) pixel = next++;

@@ -94,6 +94,7 @@ def game_folder(*parts):
         folder = pathlib.Path(name)
         folder.chmod(0o755)  # for the player who is somebody else
         shutil.copy2(DIST / "gloomdeck", folder)
+        shutil.copy(LEAKS, folder)
         if "gfx" in parts:
             shutil.copytree(DIST / "gfx", folder / "gfx")
         if "Data" in parts:
@@ -128,7 +129,7 @@ def x_server():
 def program(folder, display, **options):
     hidden = "DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XDG_RUNTIME_DIR"
     environment = {name: value for name, value in os.environ.items() if name not in hidden}
-    environment["LSAN_OPTIONS"] = f"suppressions={LEAKS}:print_suppressions=0"
+    environment["LSAN_OPTIONS"] = f"suppressions={folder / LEAKS.name}:print_suppressions=0"
     if display:
         environment["DISPLAY"] = display
     return started([folder / "gloomdeck"], cwd="/", env=environment, **options)
