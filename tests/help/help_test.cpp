@@ -45,6 +45,26 @@ TEST_F(HelpTest, TheEntriesOfATableFormARingAndEachTableRemembersItsOwnUntilTheH
     play(Script().then(shows("Gold")));
 }
 
+TEST_F(HelpTest, EveryEntryOfEveryTableIsReachedInItsOrder) {
+    const auto nameOf = [](int page, int entry) {
+        switch (page) {
+            case help_page::encounters: return encounterType(entry).name;
+            case help_page::stats: return itemType(entry).name;
+            case help_page::skills: return skillType(entry).name;
+            default: return powerType(entry).name;
+        }
+    };
+    Script script;
+    int entries = 0;
+    for (int page = help_page::encounters; page <= help_page::powers; ++page) {
+        for (int entry = 0; entry < helpEntryCount(page); ++entry, ++entries)
+            script.then(shows(std::string(nameOf(page, entry)))).key(keycode::right);
+        script.key(keycode::down);
+    }
+    play(script);
+    EXPECT_EQ(entries, 42);
+}
+
 TEST_F(HelpTest, ArrowsGoThroughThePagesAndAroundAndOnlyTablesHaveStepButtons) {
     const auto stands = [](int page) {
         return [=](InputQueue&) {

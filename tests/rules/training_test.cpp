@@ -46,6 +46,24 @@ TEST_F(TrainingTest, EveryRowSellsItsOwnGoodsForExactlyItsPrice) {
     EXPECT_EQ(itemType(health).highlightTurns, -1);
 }
 
+TEST_F(TrainingTest, TheScenarioSaysWhetherTrainingAndTradingAreForSale) {
+    struct Permission {
+        int goldTile, skill, bought;
+        std::string message;
+    };
+    for (const Permission& may :
+         {Permission{tile::goldBoth, 5, 1, ""}, Permission{tile::goldTraining, 5, 0, ""},
+          Permission{tile::goldTrading, 0, 1, ""},
+          Permission{tile::gold, 0, 0, "You can't trade or train here"}}) {
+        itemType(gold).tile = may.goldTile;
+        level(lockpicking) = count(keys) = 0;
+        count(gold) = 100;
+        visit({lockpicking, skillCount}, may.message);
+        EXPECT_EQ(level(lockpicking), may.skill) << may.goldTile;
+        EXPECT_EQ(count(keys), may.bought) << may.goldTile;
+    }
+}
+
 TEST_F(TrainingTest, ASkillIsTrainedUpToNinetyFiveAndNotAtAllAboveNinety) {
     itemType(gold).tile = tile::goldTraining;
     count(gold) = 1000;
