@@ -34,7 +34,8 @@ void bakeBitmaps(const fs::path& folder) {
 void bakeIcons(const fs::path& folder) {
     for (const int size : iconSizes) {
         const std::string n = std::to_string(size);
-        write(folder / (n + "x" + n) / "apps" / "gloomdeck.png", pngFile(paintIcon(size)));
+        write(folder / std::string(n).append("x").append(n) / "apps" / "gloomdeck.png",
+              pngFile(paintIcon(size)));
     }
     write(folder / "scalable" / "apps" / "gloomdeck.svg", svgFile(paintIcon(64)));
 }

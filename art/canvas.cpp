@@ -69,7 +69,9 @@ Canvas::Canvas(int w, int h, double scale, double x0, double y0)
       rgb_(static_cast<std::size_t>(w * h), keyColour),
       on_(static_cast<std::size_t>(w * h), 0) {}
 
-std::size_t Canvas::index(int x, int y) const { return static_cast<std::size_t>(y * w_ + x); }
+std::size_t Canvas::index(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(w_) + static_cast<std::size_t>(x);
+}
 
 void Canvas::set(int x, int y, Colour c) {
     rgb_[index(x, y)] = c;

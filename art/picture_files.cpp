@@ -74,8 +74,8 @@ Canvas tileStrip(int first, int last) {
 
 std::string svgFile(const Canvas& picture) {
     const std::string w = std::to_string(picture.width()), h = std::to_string(picture.height());
-    std::string out = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + w + "\" height=\"" + h +
-                      "\" viewBox=\"0 0 " + w + " " + h + "\" shape-rendering=\"crispEdges\">\n";
+    std::string out = R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" + w + R"(" height=")" + h +
+                      R"(" viewBox="0 0 )" + w + " " + h + R"(" shape-rendering="crispEdges">)" + "\n";
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width();) {
             const int n = picture.painted(x, y) ? runLength(picture, x, y) : 1;

@@ -113,6 +113,7 @@ Field arch(double cx, double top, double half, double bottom) {
 
 Field star(double cx, double cy, int n, double outer, double inner, double turn) {
     std::vector<Point> corners;
+    corners.reserve(2 * static_cast<std::size_t>(n));
     for (int i = 0; i < 2 * n; ++i) {
         corners.push_back(polar(cx, cy, i % 2 == 0 ? outer : inner, turn + i / (2.0 * n)));
     }
@@ -133,12 +134,12 @@ Field meet(std::vector<Field> shapes) {
     return {[s = std::move(shapes)](double x, double y) { return farthest(s, x, y); }, b};
 }
 
-Field cut(Field a, std::vector<Field> holes) {
+Field cut(const Field& a, const std::vector<Field>& holes) {
     const Bounds b = a.bounds;
     return {[=](double x, double y) { return std::max(a(x, y), -nearest(holes, x, y)); }, b};
 }
 
-Field melt(Field a, Field b, double k) {
+Field melt(const Field& a, const Field& b, double k) {
     const Bounds reach = grown(united(a.bounds, b.bounds), k);
     return {[=](double x, double y) {
                 const double p = a(x, y), q = b(x, y), h = std::max(k - std::fabs(p - q), 0.0);
@@ -147,13 +148,13 @@ Field melt(Field a, Field b, double k) {
             reach};
 }
 
-Field shift(Field a, double dx, double dy) {
+Field shift(const Field& a, double dx, double dy) {
     const Bounds b = a.bounds;
     return {[=](double x, double y) { return a(x - dx, y - dy); },
             {b.left + dx, b.top + dy, b.right + dx, b.bottom + dy}};
 }
 
-Field grow(Field a, double px) {
+Field grow(const Field& a, double px) {
     const Bounds b = grown(a.bounds, 2 * px + 2);
     return {[=](double x, double y) { return a(x, y) - px; }, b};
 }

@@ -33,11 +33,11 @@ Field everywhere();
 
 Field join(std::vector<Field> shapes);
 Field meet(std::vector<Field> shapes);
-Field cut(Field a, std::vector<Field> holes);
+Field cut(const Field& a, const std::vector<Field>& holes);
 // Smooth join: the seam is rounded over about k pixels.
-Field melt(Field a, Field b, double k);
-Field shift(Field a, double dx, double dy);
-Field grow(Field a, double px);
+Field melt(const Field& a, const Field& b, double k);
+Field shift(const Field& a, double dx, double dy);
+Field grow(const Field& a, double px);
 
 // Point at `turn` turns clockwise from straight up, rounded to 1/64 px: the only use of sin and cos.
 Point polar(double cx, double cy, double r, double turn);

@@ -66,6 +66,7 @@ Canvas everyTile(int k) {
 // On every ground, then the first ground in grey and without green cones.
 Canvas onEveryGround(std::span<const int> numbers, const std::vector<Canvas>& grounds, int k) {
     std::vector<Canvas> lines;
+    lines.reserve(grounds.size() + 2);
     for (const Canvas& below : grounds) lines.push_back(row(numbers, below));
     const Canvas first = lines.front();
     const Canvas nothing(first.width(), size);

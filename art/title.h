@@ -10,7 +10,7 @@ inline constexpr int titleWidth = 408, titleHeight = 488;
 Canvas paintTitle();
 
 // What it is made of, back to front, on units of its pixels.
-inline constexpr double titleMiddle = titleWidth / 2;
+inline constexpr double titleMiddle = titleWidth / 2.0;
 void titleWall(Canvas& p);
 void titleTorches(Canvas& p);
 void titleRobe(Canvas& p);
