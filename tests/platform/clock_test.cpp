@@ -1,8 +1,7 @@
-// Pauses, the waits of polling loops, and when the frame is shown; rounding; files.
+// Pauses, the waits of polling loops, and when the frame is shown; rounding.
 #include "platform/clock.h"
 
 #include "platform/draw.h"
-#include "platform/files.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/rounding.h"
@@ -100,28 +99,6 @@ TEST(Rounding, HalvesGoToTheEvenNeighbourOnBothSidesOfZero) {
     int ratio = -6;
     for (const int rounded : {-2, -2, -2, -1, 0, 0, 0, 1, 2, 2, 2})
         EXPECT_EQ(roundedRatio(++ratio, 2), rounded) << ratio;
-}
-
-TEST(Files, RecordsAreWrittenInPlaceAndReadBack) {
-    const std::string folder = makeProgramFolder();
-    const std::string path = folder + "\\Data\\record.dat";
-    EXPECT_FALSE(fileExists(path) || fileExists(folder));
-    for (const std::string text : {"0123456789", "abc"}) {
-        File file = openFile(path);
-        EXPECT_EQ(writeBytes(file, text.data(), text.size()), text.size());
-        closeFile(file);
-    }
-    std::string record(20, '.');
-    File file = openFile(folder + "/Data/record.dat");
-    EXPECT_EQ(readBytes(file, record.data(), 20), 10U);
-    EXPECT_EQ(record.substr(0, 10), "abc3456789") << "opening does not empty a file";
-    closeFile(file);
-    for (const std::string& unusable : {folder, folder + "/none/record.dat"}) {
-        File closed = openFile(unusable);
-        EXPECT_EQ(readBytes(closed, record.data(), 1) + writeBytes(closed, record.data(), 1), 0U);
-        closeFile(closed);
-    }
-    removeProgramFolders();
 }
 
 }  // namespace gloomdeck

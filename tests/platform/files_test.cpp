@@ -1,0 +1,78 @@
+#include "platform/files.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "tests/support/game_test.h"
+
+namespace gloomdeck {
+
+namespace {
+
+void writeFile(const std::string& path, std::string_view text) {
+    File file = openFile(path);
+    EXPECT_EQ(writeBytes(file, text.data(), text.size()), text.size());
+    closeFile(file);
+}
+
+std::string readFile(const std::string& path) {
+    std::string record(20, '.');
+    File file = openFile(path);
+    record.resize(readBytes(file, record.data(), record.size()));
+    closeFile(file);
+    return record;
+}
+
+// For as long as the scope lasts no file grows beyond that many bytes, as on a disk that is full.
+struct FullDisk {
+    explicit FullDisk(rlim_t bytes) : ignored(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit small{.rlim_cur = bytes, .rlim_max = before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, ignored);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+    void (*ignored)(int);
+    rlimit before{};
+};
+
+}  // namespace
+
+TEST(Files, RecordsAreReplacedWholeAndKeepALongerFilesTail) {
+    const std::string folder = makeProgramFolder();
+    const std::string path = folder + "/Data/record.dat";
+    EXPECT_FALSE(fileExists(path) || fileExists(folder));
+    writeFile(folder + "\\Data\\record.dat", "0123456789");
+    writeFile(path, "abc");
+    EXPECT_EQ(readFile(path), "abc3456789");
+    {
+        const FullDisk disk(4);
+        writeFile(path, "lost");
+    }
+    EXPECT_EQ(readFile(path), "abc3456789") << "a save that fails leaves the old file";
+    EXPECT_FALSE(std::filesystem::exists(path + ".new")) << "and nothing beside it";
+    std::filesystem::create_directory(path + ".new");
+    writeFile(path, "here");
+    EXPECT_EQ(readFile(path), "here456789") << "where no new file can be made it is written in place";
+    removeProgramFolders();
+}
+
+TEST(Files, WhatCannotBeOpenedTakesAndGivesNothing) {
+    const std::string folder = makeProgramFolder();
+    char byte = 'x';
+    for (const std::string& unusable : {folder, folder + "/none/record.dat"}) {
+        File closed = openFile(unusable);
+        EXPECT_EQ(readBytes(closed, &byte, 1) + writeBytes(closed, &byte, 1), 0U);
+        closeFile(closed);
+    }
+    removeProgramFolders();
+}
+
+}  // namespace gloomdeck
