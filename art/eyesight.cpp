@@ -41,8 +41,8 @@ Squint squint(const Canvas& tile) {
     for (int y = 0; y < 32; ++y) {
         for (int x = 0; x < 32; ++x) {
             for (int c = 0; c < 3; ++c) {
-                const int cell = y / 4 * 8 + x / 4;
-                cells[static_cast<std::size_t>(cell * 3 + c)] += channel(tile.colour(x, y), c) / 16;
+                const int index = (y / 4 * 8 + x / 4) * 3 + c;
+                cells[static_cast<std::size_t>(index)] += channel(tile.colour(x, y), c) / 16;
             }
         }
     }

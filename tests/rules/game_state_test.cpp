@@ -30,12 +30,14 @@ std::string bytesThatStay() {
     const GameState played = game;
     for (int col = 0; col < columnCount; ++col) {
         for (int row = 0; row < rowCount; ++row) cell(col, row) = 0;
-        column(col).drawn = column(col).finished = 0;
+        column(col).drawn = 0;
+        column(col).finished = 0;
     }
     for (int item = 0; item < itemCount; ++item) count(item) = 0;
     for (int skill = 0; skill < skillCount; ++skill) level(skill) = 0;
     for (int power = 0; power < powerCount; ++power) turnsLeft(power) = 0;
-    game.turns = game.scoreStanding = game.campaignWon = 0;
+    game.turns = game.scoreStanding = 0;
+    game.campaignWon = 0;
     std::string bytes = gameBytes();
     game = played;
     return bytes;

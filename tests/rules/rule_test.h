@@ -39,7 +39,7 @@ class RuleTest : public GameTest {
     static int countOf(enc::Code code) {
         int found = 0;
         for (int i = 0; i < columnCount * rowCount; ++i)
-            found += board(i % columnCount, i / columnCount) == code;
+            found += board(i % columnCount, i / columnCount) == code ? 1 : 0;
         return found;
     }
 

@@ -152,7 +152,10 @@ void GameTest::TearDown() {
     removeProgramFolders();
 }
 
-Colour pixelAt(int x, int y) { return screen().pixels[static_cast<std::size_t>(y * screen().width + x)]; }
+Colour pixelAt(int x, int y) {
+    const int index = y * screen().width + x;
+    return screen().pixels[static_cast<std::size_t>(index)];
+}
 
 bool textStandsAt(int x, int y, std::string_view text, Colour ink) {
     for (std::size_t i = 0; i < text.size(); ++i)
