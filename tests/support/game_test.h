@@ -53,7 +53,7 @@ class GameTest : public ::testing::Test {
 
 Colour pixelAt(int x, int y);  ///< of the frame
 
-/// Compares the frame with tests/play/golden/NAME.png; where they differ NAME.actual.png stands beside it.
+/// Compares the frame with tests/play/golden/NAME.txt; where they differ NAME.actual.bmp shows what was drawn.
 /// GLOOMDECK_REFRESH_GOLDEN=1 in the environment writes it anew.
 void expectGoldenFrame(const std::string& name);
 
