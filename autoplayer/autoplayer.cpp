@@ -112,8 +112,7 @@ bool isCancelKey(const std::string& key) {
 bool CancelRequested() {
     const std::string key = readKey();
     if (isCancelKey(key) || keptCloseRequest(key)) return true;
-    const MouseState mouse = getMouse();
-    const bool held = mouse.status == 0 && (mouse.buttons & 1) != 0;
+    const bool held = leftIsHeld(getMouse());
     if (held) startScreenPress();
     return held;
 }

@@ -53,8 +53,6 @@ int& rowOf(Selection& s) { return s.rows[static_cast<std::size_t>(s.tab)]; }
 
 int inRange(int row, int length) { return row >= 0 && row < length ? row : 0; }
 
-int wrapped(int index, int length) { return (index + length) % length; }
-
 Selection selectionFromPrefs() {
     Selection s;
     s.tab = prefs.campaignChoice == -1 ? selection_tab::scenarios : selection_tab::campaigns;
@@ -149,13 +147,12 @@ void switchTab(Selection& s, int tab) {
 }
 
 void moveRow(Selection& s, int by) {
-    rowOf(s) = wrapped(rowOf(s) + by, selectionListLength(s.tab));
+    rowOf(s) = aroundEnds(rowOf(s) + by, selectionListLength(s.tab));
     drawChoice(s);
 }
 
 void typeKey(Selection& s, const std::string& key) {
-    const bool printable = key.size() == 1 && key[0] >= 32 && key[0] <= 126;
-    if (!printable || s.name.size() >= longestTyped) return;
+    if (!isPrintable(key) || s.name.size() >= longestTyped) return;
     blankCharacter(s.name.size());
     drawText(characterLeft(s.name.size()), nameTop, key);
     s.name += key;

@@ -37,8 +37,6 @@ int& entryOf(HelpState& state) { return state.entries[static_cast<std::size_t>(s
 
 bool isTablePage(int page) { return helpEntryCount(page) > 1; }
 
-int wrapped(int index, int length) { return (index + length) % length; }
-
 void openScreen() {
     setWindowTitle("Help");
     prefs.currentScreen = screen_id::help;
@@ -81,13 +79,13 @@ void drawPage(HelpState& state) {
 }
 
 void turnTo(HelpState& state, int page) {
-    state.page = wrapped(page, help_page::count);
+    state.page = aroundEnds(page, help_page::count);
     drawPage(state);
 }
 
 void step(HelpState& state, int by) {
     if (!isTablePage(state.page)) return;
-    entryOf(state) = wrapped(entryOf(state) + by, helpEntryCount(state.page));
+    entryOf(state) = aroundEnds(entryOf(state) + by, helpEntryCount(state.page));
     drawContent(state);
 }
 

@@ -1,9 +1,7 @@
 #include "platform/bitmap.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <cstdio>
 #include <optional>
 
 #include "platform/files.h"
@@ -13,14 +11,11 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{64} << 20;
 constexpr int largestSide = 1 << 14;
 constexpr std::size_t fileHeaderSize = 14;
 constexpr std::size_t smallestInfoHeader = 40;
 constexpr std::size_t paletteEntrySize = 4;
 constexpr std::size_t headersSize = fileHeaderSize + smallestInfoHeader;
-
-using Bytes = std::vector<std::uint8_t>;
 
 struct BitmapHeader {
     std::size_t pixelOffset = 0;
@@ -39,21 +34,6 @@ std::uint32_t little32(const Bytes& file, std::size_t at) {
 
 std::uint32_t little16(const Bytes& file, std::size_t at) {
     return file[at] | static_cast<std::uint32_t>(file[at + 1]) << 8;
-}
-
-// The whole file; empty when it is missing, no plain file, or larger than any picture of ours could be.
-Bytes contentsOf(const std::string& path) {
-    if (!fileExists(path)) return {};
-    std::FILE* stream = std::fopen(nativePath(path).c_str(), "rb");
-    if (!stream) return {};
-    Bytes contents;
-    std::array<std::uint8_t, 65536> block{};
-    for (std::size_t got = 0; (got = std::fread(block.data(), 1, block.size(), stream)) > 0;) {
-        contents.insert(contents.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(got));
-        if (contents.size() > largestFile) break;
-    }
-    std::fclose(stream);
-    return contents.size() > largestFile ? Bytes{} : contents;
 }
 
 std::size_t rowSize(const BitmapHeader& h) {
@@ -127,7 +107,7 @@ void copyPixels(const BitmapHeader& h, const Bytes& file, Image& target) {
 }  // namespace
 
 void loadBitmap(const std::string& path, Image& target) {
-    const Bytes file = contentsOf(path);
+    const Bytes file = fileContents(path).value_or(Bytes{});
     const std::optional<BitmapHeader> header = headerOf(file);
     if (!header) return;
     copyPixels(*header, file, target);

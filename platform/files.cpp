@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <optional>
 
 #include "platform/host.h"
 
@@ -19,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t largestFile = std::size_t{16} << 20;
+constexpr std::size_t largestFile = std::size_t{64} << 20;
 constexpr mode_t newFileMode = 0666;  // less what the user's mask takes away
 
 // A file's descriptor, closed at the end of the scope.
@@ -34,22 +33,7 @@ struct Descriptor {
     int number;
 };
 
-// The whole file; none when it cannot be read or is larger than any record of ours could be.
-std::optional<std::vector<char>> contentsOf(const std::string& name) {
-    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.number < 0) return {};
-    std::vector<char> contents;
-    std::vector<char> block(4096);
-    while (true) {
-        const ssize_t got = ::read(file.number, block.data(), block.size());
-        if (got == 0) return contents;
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0 || contents.size() > largestFile) return {};
-        contents.insert(contents.end(), block.begin(), block.begin() + got);
-    }
-}
-
-bool writeWhole(int descriptor, const std::vector<char>& contents) {
+bool writeWhole(int descriptor, const Bytes& contents) {
     std::size_t done = 0;
     while (done < contents.size()) {
         const ssize_t put = ::write(descriptor, contents.data() + done, contents.size() - done);
@@ -72,14 +56,14 @@ void flushFolder(const fs::path& folder) {
 
 enum class Outcome { done, failed, noNewFile };
 
-Outcome writeBeside(const std::string& name, const std::string& beside, const std::vector<char>& contents) {
+Outcome writeBeside(const std::string& name, const std::string& beside, const Bytes& contents) {
     const Descriptor file(::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, newFileMode));
     if (file.number < 0) return Outcome::noNewFile;
     copyMode(name, file.number);
     return writeWhole(file.number, contents) ? Outcome::done : Outcome::failed;
 }
 
-Outcome replaceFile(const std::string& name, const std::vector<char>& contents) {
+Outcome replaceFile(const std::string& name, const Bytes& contents) {
     const std::string beside = name + ".new";
     const Outcome written = writeBeside(name, beside, contents);
     if (written == Outcome::done && std::rename(beside.c_str(), name.c_str()) == 0) {
@@ -90,7 +74,7 @@ Outcome replaceFile(const std::string& name, const std::vector<char>& contents) 
     return written == Outcome::noNewFile ? written : Outcome::failed;
 }
 
-void overwriteFile(const std::string& name, const std::vector<char>& contents) {
+void overwriteFile(const std::string& name, const Bytes& contents) {
     const Descriptor file(::open(name.c_str(), O_WRONLY | O_CLOEXEC));
     if (file.number >= 0) writeWhole(file.number, contents);
 }
@@ -116,6 +100,21 @@ bool fileExists(const std::string& path) {
     return fs::is_regular_file(nativePath(path), error);
 }
 
+std::optional<Bytes> fileContents(const std::string& path) {
+    if (!fileExists(path)) return {};
+    const Descriptor file(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.number < 0) return {};
+    Bytes contents;
+    Bytes block(65536);
+    while (true) {
+        const ssize_t got = ::read(file.number, block.data(), block.size());
+        if (got == 0) return contents;
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0 || contents.size() + static_cast<std::size_t>(got) > largestFile) return {};
+        contents.insert(contents.end(), block.begin(), block.begin() + got);
+    }
+}
+
 File openFile(const std::string& path) {
     const std::string name = resolved(path);
     std::error_code error;
@@ -123,8 +122,7 @@ File openFile(const std::string& path) {
         if (!fs::is_directory(fs::path(name).parent_path(), error)) return {};
         return {.path = name, .contents = {}, .changed = true};
     }
-    std::optional<std::vector<char>> contents;
-    if (fileExists(name)) contents = contentsOf(name);
+    std::optional<Bytes> contents = fileContents(name);
     if (!contents) return {};
     return {.path = name, .contents = std::move(*contents)};
 }

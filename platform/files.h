@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,10 +17,16 @@ bool fileExists(const std::string& path);
 /// The path as the system writes it.
 std::string nativePath(std::string path);
 
+using Bytes = std::vector<std::uint8_t>;
+
+/// The whole file; none when it is missing, no plain file, cannot be read, or larger than 64 MiB, which no
+/// file of ours could be.
+std::optional<Bytes> fileContents(const std::string& path);
+
 /// An open file: its contents as they are to be when it is closed. Not open while the path is empty.
 struct File {
     std::string path;
-    std::vector<char> contents;
+    Bytes contents;
     std::size_t position = 0;
     bool changed = false;
 };

@@ -11,8 +11,6 @@ namespace {
 constexpr std::size_t mostKeys = 256;
 constexpr std::size_t mostChanges = 4096;
 
-bool isPrintable(std::string_view key) { return key.size() == 1 && key[0] >= 32 && key[0] <= 126; }
-
 bool isKnownKey(std::string_view key) {
     using namespace keycode;
     constexpr std::array known{enter, escape, backspace, tab, up, down, left, right};

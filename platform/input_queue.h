@@ -18,6 +18,9 @@ struct MouseState {
     int buttons = -1;
 };
 
+/// True while the left button is down over the frame.
+inline bool leftIsHeld(const MouseState& mouse) { return mouse.status == 0 && (mouse.buttons & 1) != 0; }
+
 struct ButtonChange {
     bool down = false;
     bool inside = false;
@@ -55,6 +58,9 @@ inline constexpr std::string_view left = "\xFFK";
 inline constexpr std::string_view right = "\xFFM";
 inline constexpr std::string_view close = "\xFFk";  ///< the window's close request
 }  // namespace keycode
+
+/// True for the keys that stand for a printable ASCII character.
+inline bool isPrintable(std::string_view key) { return key.size() == 1 && key[0] >= ' ' && key[0] <= '~'; }
 
 // What hosts report.
 

@@ -6,6 +6,9 @@
 
 namespace gloomdeck {
 
+/// The item of a menu or list that a step of one leads to, around its ends: index may be -1 to length.
+constexpr int aroundEnds(int index, int length) { return (index + length) % length; }
+
 /// "Campaign" (0) and "Scenario" (1), side by side.
 void drawTabs(int selected);
 

@@ -125,7 +125,7 @@ void removePressedLook() {
 int handleMouse() {
     const MouseState mouse = getMouse();
     const bool outside = mouse.status != 0;
-    const bool down = !outside && (mouse.buttons & 1) != 0;
+    const bool down = leftIsHeld(mouse);
     ignoreHold = buttonIsHeld() && (ignoreHold || outside);
     if (pressedWidget == notPressed) {
         // A pointer outside presses nothing, so that the click with which it comes back is seen.

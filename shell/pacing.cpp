@@ -24,8 +24,6 @@ void changeSpeed(int step, int announce, const char* changed, const char* atLimi
     ShowMessage(moves ? changed + std::string(SpeedName(wanted)) + "." : std::string(atLimit), 1);
 }
 
-bool leftIsHeld(const MouseState& mouse) { return mouse.status == 0 && (mouse.buttons & 1) != 0; }
-
 void waitForRelease() {
     while (leftIsHeld(getMouse()) && !programIsEnding()) pausePolling(1);
 }

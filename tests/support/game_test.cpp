@@ -9,18 +9,15 @@
 #include <set>
 
 #include "art/picture_files.h"
-#include "platform/clock.h"
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/random.h"
-#include "prefs/saved_data.h"
 #include "shell/layout.h"
-#include "shell/lifecycle.h"
-#include "shell/mouse.h"
 #include "shell/palette.h"
 #include "shell/tile_set.h"
+#include "tests/support/reset.h"
 
 namespace gloomdeck {
 
@@ -99,23 +96,10 @@ std::string makeProgramFolder(bool withPictures) {
 void removeProgramFolders() { std::filesystem::remove_all(programFolder()); }
 
 void resetProgram() {
-    script::reset();
-    resetInput();
-    resetClock();
-    resetFrame();
-    resetCatalogue();
-    resetLifecycle();
-    forgetSafePoint();
+    forgetProgram();
     useRandomSource(nullptr);
     fed.clear();
     missing = 0;
-    game = {};
-    prefs = {};
-    ui = {};
-    restartPress();
-    clickedButton = -1;
-    clearMessages();
-    layOutWidgets();
 }
 
 void makeEmptyBoard() {

@@ -11,18 +11,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
 #include "platform/frame.h"
 #include "platform/host_script.h"
-#include "platform/input.h"
 #include "prefs/prefs.h"
-#include "prefs/saved_data.h"
-#include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/lifecycle.h"
 #include "shell/main_loop.h"
-#include "shell/messages.h"
 #include "shell/ui_state.h"
+#include "tests/support/reset.h"
 #include "tools/soak/player.h"
 #include "tools/soak/watch.h"
 
@@ -87,24 +82,6 @@ bool atPoll(InputQueue& queue) {
     return true;
 }
 
-// As a new process would find everything.
-void forgetProgram() {
-    script::reset();
-    resetInput();
-    resetClock();
-    resetFrame();
-    resetCatalogue();
-    resetLifecycle();
-    forgetSafePoint();
-    clearMessages();
-    game = {};
-    prefs = {};
-    ui = {};
-    pressedWidget = notPressed;
-    clickedButton = -1;
-    pollsAfterEnd = 0;
-}
-
 std::string contentsOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -118,6 +95,7 @@ void checkSavedGame(const std::string& folder) {
 // One life of the program, from its start to its end.
 void runOnce(const std::string& folder) {
     forgetProgram();
+    pollsAfterEnd = 0;
     watchFromStart();
     script::setFolder(folder);
     script::setFramePeriod(oneIn(4) ? displayPeriod : brokenDisplay);

@@ -1,0 +1,36 @@
+#include "tests/support/reset.h"
+
+#include "platform/clock.h"
+#include "platform/frame.h"
+#include "platform/host_script.h"
+#include "platform/input.h"
+#include "prefs/prefs.h"
+#include "prefs/saved_data.h"
+#include "rules/catalogue.h"
+#include "rules/game_state.h"
+#include "shell/layout.h"
+#include "shell/lifecycle.h"
+#include "shell/messages.h"
+#include "shell/mouse.h"
+#include "shell/ui_state.h"
+
+namespace gloomdeck {
+
+void forgetProgram() {
+    script::reset();
+    resetInput();
+    resetClock();
+    resetFrame();
+    resetCatalogue();
+    resetLifecycle();
+    forgetSafePoint();
+    game = {};
+    prefs = {};
+    ui = {};
+    restartPress();
+    clickedButton = -1;
+    clearMessages();
+    layOutWidgets();
+}
+
+}  // namespace gloomdeck
