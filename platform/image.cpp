@@ -12,11 +12,21 @@ namespace {
 Colour* pixelAt(Image& image, int x, int y) { return image.pixels.data() + y * image.width + x; }
 const Colour* pixelAt(const Image& image, int x, int y) { return image.pixels.data() + y * image.width + x; }
 
-void putRow(Colour* to, const Colour* from, int count, PutMode mode) {
+// What lies in the part of the destination, drawn from the source whose corner stands at the place.
+PixelRows rowsOf(Image& destination, const Rect& part, const Image& source, Point corner) {
+    return {.to = pixelAt(destination, part.x1, part.y1),
+            .toStep = destination.width,
+            .from = pixelAt(source, part.x1 - corner.x, part.y1 - corner.y),
+            .fromStep = source.width,
+            .width = part.x2 - part.x1 + 1,
+            .height = part.y2 - part.y1 + 1};
+}
+
+void putRows(const PixelRows& rows, PutMode mode) {
     switch (mode.kind) {
-        case PutMode::Kind::copy: return copyRow(to, from, count);
-        case PutMode::Kind::transparent: return copyRowTransparent(to, from, count);
-        case PutMode::Kind::blend: return blendRow(to, from, count, mode.alpha);
+        case PutMode::Kind::copy: return copyRows(rows);
+        case PutMode::Kind::transparent: return copyRowsTransparent(rows);
+        case PutMode::Kind::blend: return blendRows(rows, mode.alpha);
     }
 }
 
@@ -37,17 +47,14 @@ void getImage(const Image& source, int x1, int y1, int x2, int y2, Image& destin
     const Rect inSource{0, 0, source.width - 1, source.height - 1};
     const Rect part = intersection(intersection(wanted, fits), inSource);
     if (isEmpty(part)) return;
-    for (int y = part.y1; y <= part.y2; ++y)
-        copyRow(pixelAt(destination, part.x1 - wanted.x1, y - wanted.y1), pixelAt(source, part.x1, y),
-                part.x2 - part.x1 + 1);
+    const Rect target{part.x1 - wanted.x1, part.y1 - wanted.y1, part.x2 - wanted.x1, part.y2 - wanted.y1};
+    copyRows(rowsOf(destination, target, source, {-wanted.x1, -wanted.y1}));
 }
 
 void putImage(int x, int y, const Image& image, PutMode mode) {
     const Rect part = intersection({x, y, x + image.width - 1, y + image.height - 1}, clipRect());
     if (isEmpty(part)) return;
-    for (int row = part.y1; row <= part.y2; ++row)
-        putRow(pixelAt(screen(), part.x1, row), pixelAt(image, part.x1 - x, row - y), part.x2 - part.x1 + 1,
-               mode);
+    putRows(rowsOf(screen(), part, image, {x, y}), mode);
     frameChanged({part.y1, part.y2});
 }
 

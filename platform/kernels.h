@@ -1,17 +1,32 @@
-// The three pixel loops under putImage, a row at a time.
+// The three pixel loops under putImage, on the rows of a rectangle.
 #pragma once
 
 #include "platform/colour.h"
 
 namespace gloomdeck {
 
-void copyRow(Colour* to, const Colour* from, int count);
+/// Rows that are drawn on, and as many that are drawn; they start a step of pixels apart. The two lie apart
+/// in memory, width and height are at least 1.
+struct PixelRows {
+    Colour* to;
+    int toStep;
+    const Colour* from;
+    int fromStep;
+    int width;
+    int height;
+};
+
+void copyRows(const PixelRows& rows);
 
 /// Copies what is not transparent.
-void copyRowTransparent(Colour* to, const Colour* from, int count);
+void copyRowsTransparent(const PixelRows& rows);
 
 /// Every channel d of a pixel that is not transparent becomes d + (s - d) * alpha / 256, divided toward zero.
 /// alpha is 0 to 255.
-void blendRow(Colour* to, const Colour* from, int count, int alpha);
+void blendRows(const PixelRows& rows, int alpha);
+
+/// The last two use the processor's wide registers where it has some; false makes them do without, with the
+/// same pixels. Answers whether they are in use now.
+bool useWideRegisters(bool wanted);
 
 }  // namespace gloomdeck

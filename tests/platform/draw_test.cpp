@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <map>
+#include <utility>
 
 #include "platform/font.h"
 #include "platform/frame.h"
@@ -111,21 +112,47 @@ TEST_F(DrawTest, TransparentPixelsAreSkippedWhateverTheirAlphaAndCopiedByCopy) {
     EXPECT_TRUE(blended.size() == 1 && blended.contains({2, 9}));
 }
 
+// A row of every s against one d, in the four channels in different orders, with a transparent pixel in it.
 TEST(Kernels, BlendingIsExactForEveryPairOfChannelsAndEveryAlpha) {
-    std::vector<Colour> from(256);
-    std::vector<Colour> expected(256);
-    for (int alpha = 0; alpha < 256; ++alpha)
-        for (int d = 0; d < 256; ++d) {
-            const auto mixed = [=](int s) { return static_cast<Colour>(d + (s - d) * alpha / 256); };
-            for (int s = 0; s < 256; ++s) {
-                const auto at = static_cast<std::size_t>(s);
-                from[at] = static_cast<Colour>(s) * 0x00010001 + static_cast<Colour>(s ^ 0x55) * 0x01000100;
-                expected[at] = mixed(s) * 0x00010001 + mixed(s ^ 0x55) * 0x01000100;
+    std::vector<Colour> from(257);
+    std::vector<Colour> expected(257);
+    for (const bool wide : {false, true}) {
+        if (useWideRegisters(wide) != wide) continue;
+        for (int alpha = 0; alpha < 256; ++alpha)
+            for (int d = 0; d < 256; ++d) {
+                const auto mixed = [=](int s) { return static_cast<Colour>(d + (s - d) * alpha / 256); };
+                const Colour blank = static_cast<Colour>(d) * 0x01010101;
+                for (int s = 0; s < 256; ++s) {
+                    const auto at = static_cast<std::size_t>(s);
+                    from[at] =
+                        static_cast<Colour>(s) * 0x00010001 + static_cast<Colour>(s ^ 0x55) * 0x01000100;
+                    expected[at] = mixed(s) * 0x00010001 + mixed(s ^ 0x55) * 0x01000100;
+                }
+                const auto key = static_cast<std::size_t>(d);
+                from[256] = std::exchange(from[key], (transparentColour & 0x00FFFFFF) | blank << 24);
+                expected[256] = std::exchange(expected[key], blank);
+                std::vector<Colour> to(257, blank);
+                blendRows({to.data(), 0, from.data(), 0, 257, 1}, alpha);
+                ASSERT_EQ(to, expected) << d << " by " << alpha << (wide ? ", wide" : "");
             }
-            std::vector<Colour> to(256, static_cast<Colour>(d) * 0x01010101);
-            blendRow(to.data(), from.data(), 256, alpha);
-            ASSERT_EQ(to, expected) << d << " by " << alpha;
+    }
+}
+
+TEST(Kernels, RowsOfAnyWidthAreDrawnOnceAndNothingBesideThem) {
+    constexpr int step = 80;
+    const std::vector<Colour> from(2 * step, 0xFF808080);
+    for (const bool wide : {false, true})
+        for (int width = 1; width < step && useWideRegisters(wide) == wide; ++width) {
+            std::vector<Colour> once(2 * step, 0);
+            std::vector<Colour> expected(2 * step, 0);
+            for (const int start : {0, step}) std::fill_n(expected.begin() + start, width, 0x7F404040);
+            blendRows({once.data(), step, from.data(), step, width, 2}, 128);
+            EXPECT_EQ(once, expected) << width;
+            copyRowsTransparent({once.data(), step, from.data(), step, width, 2});
+            for (const int start : {0, step}) std::fill_n(expected.begin() + start, width, 0xFF808080);
+            EXPECT_EQ(once, expected) << width;
         }
+    useWideRegisters(true);
 }
 
 }  // namespace gloomdeck
