@@ -2,22 +2,23 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/bytes.h"
+#include "platform/folder_lock.h"
 
 namespace gloomdeck {
 
 /// The folder of the running program, without a trailing separator.
 std::string programFolder();
 
+/// True also where it cannot be told.
 bool fileExists(const std::string& path);
 
 /// The path as the system writes it.
 std::string nativePath(std::string path);
-
-using Bytes = std::vector<std::uint8_t>;
 
 /// The whole file; none when it is missing, no plain file, cannot be read, or larger than 64 MiB, which no
 /// file of ours could be.
@@ -35,6 +36,8 @@ struct File {
 /// the other operations do nothing.
 File openFile(const std::string& path);
 
+bool isOpen(const File& file);
+
 /// Transfers at most count bytes at the current position; the answer is how many were.
 std::size_t readBytes(File& file, void* buffer, std::size_t count);
 std::size_t writeBytes(File& file, const void* buffer, std::size_t count);
@@ -43,5 +46,18 @@ std::size_t writeBytes(File& file, const void* buffer, std::size_t count);
 /// the folder takes a new file; where it takes none, the old file is written in place. A failure leaves the
 /// old file and reports nothing.
 void closeFile(File& file);
+
+/// For as long as it lives, these files of one folder are one: what a cut has left half done is finished
+/// first, another copy of the program waits that does the same, and what is closed goes to the disk together
+/// at the end. Where one cannot be read, or it cannot be told what a cut has left, none is written. One at a
+/// time.
+struct FilesTogether {
+    explicit FilesTogether(const std::vector<std::string>& paths);
+    ~FilesTogether();
+    FilesTogether(const FilesTogether&) = delete;
+    FilesTogether& operator=(const FilesTogether&) = delete;
+
+    FolderLock lock;
+};
 
 }  // namespace gloomdeck

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/files.h"
 #include "prefs/prefs.h"
@@ -20,15 +21,18 @@ struct SafePoint {
 };
 
 std::optional<SafePoint> safePoint;
+bool filesAreUnreadable = false;  // an error of the disk perhaps: what they hold is kept
 
 std::string dataFile(const char* base) { return programFolder() + "\\Data\\" + "D" + base; }
 
 template <typename Record>
-void readRecord(const char* base, Record& record) {
+bool readRecord(const char* base, Record& record) {
     record = {};
     File file = openFile(dataFile(base));
+    const bool opened = isOpen(file);
     readBytes(file, &record, sizeof record);
     closeFile(file);
+    return opened;
 }
 
 template <typename Record>
@@ -38,8 +42,12 @@ void writeRecord(const char* base, const Record& record) {
     closeFile(file);
 }
 
+std::vector<std::string> bothFiles() { return {dataFile(gameBase), dataFile(prefsBase)}; }
+
 void save(const GameState& state, Prefs preferences) {
+    if (filesAreUnreadable) return;
     preferences.reserved = 0;
+    const FilesTogether both(bothFiles());
     writeRecord(gameBase, state);
     writeRecord(prefsBase, preferences);
 }
@@ -47,9 +55,13 @@ void save(const GameState& state, Prefs preferences) {
 }  // namespace
 
 int LoadSavedData() {
+    const FilesTogether both(bothFiles());
     if (!fileExists(dataFile(gameBase)) || !fileExists(dataFile(prefsBase))) return 0;
-    readRecord(gameBase, game);
-    readRecord(prefsBase, prefs);
+    SafePoint saved;
+    filesAreUnreadable = !readRecord(gameBase, saved.game) || !readRecord(prefsBase, saved.prefs);
+    if (filesAreUnreadable) return 0;
+    game = saved.game;
+    prefs = saved.prefs;
     return 1;
 }
 
@@ -73,6 +85,9 @@ void saveSafePoint() {
     if (safePoint) save(safePoint->game, safePoint->prefs);
 }
 
-void forgetSafePoint() { safePoint.reset(); }
+void resetSavedData() {
+    safePoint.reset();
+    filesAreUnreadable = false;
+}
 
 }  // namespace gloomdeck

@@ -23,7 +23,7 @@ void forgetProgram() {
     resetFrame();
     resetCatalogue();
     resetLifecycle();
-    forgetSafePoint();
+    resetSavedData();
     game = {};
     prefs = {};
     ui = {};
