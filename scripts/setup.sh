@@ -2,7 +2,7 @@
 # caller has set `top` to the repository's folder and `me` to its own name for messages.
 
 build_packages=(g++ cmake ninja-build libsdl2-dev libpng-dev)
-test_packages=(libgtest-dev xvfb xauth xdotool x11-utils libx11-dev python3)
+test_packages=(libgtest-dev xvfb xauth xdotool x11-utils libx11-dev python3 strace)
 lint_packages=(clang-format clang-tidy)
 
 # die MESSAGE...: ends the command with one line on standard error.
