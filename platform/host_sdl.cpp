@@ -92,7 +92,7 @@ void open(int width, int height) {
     programFolder();  // made before the handler below, it is still there when that saves
     std::atexit(noteProcessExit);
     if (openDesktopWindow({width, height}, lastTitle)) return;
-    std::fputs("gloomdeck: no display to open a window on; try: xvfb-run -a ./play\n", stderr);
+    std::fputs("gloomdeck: there is no display to open a window on; start it on a desktop\n", stderr);
     end(EXIT_FAILURE);
 }
 
