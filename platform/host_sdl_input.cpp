@@ -19,6 +19,8 @@ struct KeyMarks {
 KeyMarks lastKey;
 bool pointerOverWindow = false;
 Point pointerPlace;  // in the window, as events count
+bool buttonDown = false;
+bool pressIsHidden = false;  // after a lost release the window library keeps the next press to itself
 bool repaintDue = false;
 
 // The right Alt is AltGr on many layouts and types characters.
@@ -66,21 +68,36 @@ void movePointer(InputQueue& queue, int x, int y) {
     reportPointer(queue);
 }
 
+void changeButton(InputQueue& queue, bool down) {
+    buttonDown = down;
+    buttonChanged(queue, down);
+}
+
 // A release that the window never saw shows in the next motion.
 void noteMotion(InputQueue& queue, const SDL_MouseMotionEvent& event) {
     movePointer(queue, event.x, event.y);
-    if ((event.state & SDL_BUTTON_LMASK) == 0) buttonChanged(queue, false);
+    if ((event.state & SDL_BUTTON_LMASK) == 0) changeButton(queue, false);
+}
+
+// Where the window lost the keyboard with the button held, a release outside of it is lost too.
+void notePointerBack(InputQueue& queue) {
+    if (!buttonDown || (SDL_GetGlobalMouseState(nullptr, nullptr) & SDL_BUTTON_LMASK) != 0) return;
+    changeButton(queue, false);
+    pressIsHidden = true;
 }
 
 void noteButton(InputQueue& queue, const SDL_MouseButtonEvent& event) {
     if (event.button != SDL_BUTTON_LEFT) return;
     movePointer(queue, event.x, event.y);
-    buttonChanged(queue, event.state == SDL_PRESSED);
+    if (pressIsHidden && event.state == SDL_RELEASED) changeButton(queue, true);
+    pressIsHidden = false;
+    changeButton(queue, event.state == SDL_PRESSED);
 }
 
 void noteWindow(InputQueue& queue, const SDL_WindowEvent& event) {
     switch (event.event) {
         case SDL_WINDOWEVENT_CLOSE: return closeRequested(queue);
+        case SDL_WINDOWEVENT_ENTER: return notePointerBack(queue);
         case SDL_WINDOWEVENT_LEAVE: pointerOverWindow = false; return reportPointer(queue);
         case SDL_WINDOWEVENT_SIZE_CHANGED:
             reportPointer(queue);

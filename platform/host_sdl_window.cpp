@@ -45,6 +45,12 @@ void setHints() {
     setenv("SDL_VIDEO_WAYLAND_WMCLASS", "gloomdeck", 0);
 }
 
+// Dropped things come with memory to free, and nothing here wants them.
+void refuseDrops() {
+    for (const Uint32 type : {SDL_DROPFILE, SDL_DROPTEXT, SDL_DROPBEGIN, SDL_DROPCOMPLETE})
+        SDL_EventState(type, SDL_DISABLE);
+}
+
 Extent openingSize() {
     SDL_Rect usable{};
     if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return frameSize;
@@ -142,7 +148,9 @@ bool openDesktopWindow(Extent frame, const std::string& title) {
     shownPixels.assign(static_cast<std::size_t>(frame.width) * static_cast<std::size_t>(frame.height),
                        0xFF000000);
     setHints();
-    if (SDL_Init(SDL_INIT_VIDEO) != 0 || !createWindow(title)) return false;
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) return false;
+    refuseDrops();
+    if (!createWindow(title)) return false;
     if (!writableSurface() && !fallBackToRenderer(title)) return false;
     SDL_ShowWindow(window);
     SDL_StartTextInput();

@@ -1,6 +1,9 @@
-// What xdotool cannot do with a window: read its pixels, ask it to close, and lie over it for a moment.
+// What xdotool cannot do with a window: read its pixels, ask it to close, lie over it for a moment, take the
+// keyboard away, and drop text on it.
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <poll.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,14 +28,72 @@ int printPixels(Display* display, Window window, const Words& part) {
     return EXIT_SUCCESS;
 }
 
-int askToClose(Display* display, Window window) {
+Atom atom(Display* display, const char* name) { return XInternAtom(display, name, False); }
+
+bool tell(Display* display, Window window, const char* message, const std::vector<unsigned long>& words) {
     XEvent event{};
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+    event.xclient.message_type = atom(display, message);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-    return XSendEvent(display, window, False, NoEventMask, &event) ? EXIT_SUCCESS : EXIT_FAILURE;
+    for (std::size_t i = 0; i < words.size(); ++i) event.xclient.data.l[i] = static_cast<long>(words[i]);
+    return XSendEvent(display, window, False, NoEventMask, &event) != 0;
+}
+
+int askToClose(Display* display, Window window) {
+    return tell(display, window, "WM_PROTOCOLS", {atom(display, "WM_DELETE_WINDOW")}) ? EXIT_SUCCESS
+                                                                                      : EXIT_FAILURE;
+}
+
+int takeFocus(Display* display) {
+    XSetInputFocus(display, None, RevertToNone, CurrentTime);
+    return EXIT_SUCCESS;
+}
+
+void giveText(Display* display, const XSelectionRequestEvent& request) {
+    const std::string text = "file:///dropped/on/the/game\r\n";
+    XChangeProperty(display, request.requestor, request.property, request.target, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()));
+    XEvent answer{};
+    answer.xselection = {.type = SelectionNotify,
+                         .serial = 0,
+                         .send_event = True,
+                         .display = display,
+                         .requestor = request.requestor,
+                         .selection = request.selection,
+                         .target = request.target,
+                         .property = request.property,
+                         .time = request.time};
+    XSendEvent(display, request.requestor, False, NoEventMask, &answer);
+}
+
+// Gives text to whoever asks, until nobody has asked for a moment; answers how often.
+int serveText(Display* display) {
+    constexpr int moment = 200;  // milliseconds
+    int asked = 0;
+    pollfd connection{.fd = ConnectionNumber(display), .events = POLLIN, .revents = 0};
+    while (XPending(display) > 0 || poll(&connection, 1, moment) > 0) {
+        XEvent event{};
+        XNextEvent(display, &event);
+        if (event.type != SelectionRequest) continue;
+        giveText(display, event.xselectionrequest);
+        ++asked;
+    }
+    return asked;
+}
+
+// As a file manager does; the text is on the clipboard too.
+int dropText(Display* display, Window window) {
+    const Window source = XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 1, 1, 0, 0, 0);
+    for (const char* selection : {"XdndSelection", "CLIPBOARD"})
+        XSetSelectionOwner(display, atom(display, selection), source, CurrentTime);
+    constexpr unsigned long version = 5UL << 24;
+    const Atom copy = atom(display, "XdndActionCopy");
+    tell(display, window, "XdndEnter", {source, version, atom(display, "text/uri-list")});
+    tell(display, window, "XdndPosition", {source, 0, 200UL << 16 | 200UL, CurrentTime, copy});
+    tell(display, window, "XdndDrop", {source, 0, CurrentTime});
+    std::printf("%d\n", serveText(display));
+    return EXIT_SUCCESS;
 }
 
 int coverForAMoment(Display* display, Window window) {
@@ -63,6 +124,8 @@ int main(int count, char** arguments) {
     const Window window = std::stoul(words[1]);
     int answer = EXIT_FAILURE;
     if (words[0] == "close") answer = askToClose(display, window);
+    if (words[0] == "unfocus") answer = takeFocus(display);
+    if (words[0] == "drop") answer = dropText(display, window);
     if (words[0] == "cover") answer = coverForAMoment(display, window);
     if (words[0] == "pixels" && words.size() == 6)
         answer = printPixels(display, window, {words.begin() + 2, words.end()});
