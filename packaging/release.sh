@@ -4,8 +4,7 @@ release_packages=(dpkg-dev git)
 
 # date_of_commit: in seconds; everything in the packages has it.
 date_of_commit() {
-    git -C "$top" log -1 --format=%ct 2>/dev/null ||
-        die "the sources are no git checkout; packages are built from a commit, whose date they have"
+    git -C "$top" log -1 --format=%ct || die "packages are built from the last commit of a git checkout (see above)"
 }
 
 # take_sources FOLDER: the last commit alone.
