@@ -27,12 +27,12 @@ tried() {
     fi
 }
 
-# same_again FOLDER: another place, day's mask and language.
+# same_again COMMIT DIST: built in another place, with another mask, clock and language.
 same_again() {
     local again="$scratch/a second build, größer"
-    (umask 077 && LANG=C.UTF-8 TZ=Asia/Tokyo release "$again/sources" "$again/packages") >/dev/null
+    (umask 077 && LANG=C.UTF-8 TZ=Asia/Tokyo release "$1" "$again/sources" "$again/packages") >/dev/null
     local package
-    for package in "$1"/gloomdeck-*.tar.gz "$1"/gloomdeck_*.deb; do
+    for package in "$2"/gloomdeck-*.tar.gz "$2"/gloomdeck_*.deb; do
         cmp "$package" "$again/packages/${package##*/}" || return 1
     done
 }
@@ -95,7 +95,6 @@ check_files() {
     tar -x -C "$scratch" -f "$1"/gloomdeck-*.tar.gz
     gzip -dc "$share/man/man6/gloomdeck.6.gz" >"$scratch/gloomdeck.6"
     "$unpacked/usr/games/gloomdeck" --help >"$scratch/help"
-    tried same_bytes "two builds of the commit differ" same_again "$1"
     tried desktop_entry "the desktop entry is not valid" desktop-file-validate "$share/applications/gloomdeck.desktop"
     tried metadata "the metadata is not valid" appstreamcli validate --strict --no-net "$share"/metainfo/*.xml
     tried lintian "lintian has found errors" lintian --allow-root --fail-on error,warning "$deb"
@@ -109,7 +108,7 @@ check_files() {
         "$scratch/gloomdeck.6" "$scratch/help" "$scratch"/gloomdeck-*/README.md
 }
 
-# check_release DIST: fails unless all that was tried is well.
+# check_release COMMIT DIST: fails unless all that was tried is well.
 check_release() {
     local log="$top/build/package-check.log"
     need_packages "${check_packages[@]}" file
@@ -117,8 +116,9 @@ check_release() {
     scratch="$(mktemp -d)"
     trap 'rm -rf "$scratch"' EXIT
     {
-        check_files "$1"
-        "$top/packaging/check_played.py" "$top/build/asan" "$1" || echo "FAIL package.played: it ended with code $?"
+        tried same_bytes "two builds of the commit differ" same_again "$1" "$2"
+        check_files "$2"
+        "$top/packaging/check_played.py" "$top/build/asan" "$2" || echo "FAIL package.played: it ended with code $?"
     } | tee "$log"
     printf '%d passed, %d failed\n' "$(grep -c '^PASS ' "$log")" "$(grep -c '^FAIL ' "$log")"
     ! grep -q '^FAIL ' "$log"

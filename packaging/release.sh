@@ -1,19 +1,19 @@
-# Builds the packages of the last commit. Sourced by ./package.
+# Builds the packages of a commit. Sourced by ./package.
 
 release_packages=(dpkg-dev git)
 
-# date_of_commit: in seconds; everything in the packages has it.
-date_of_commit() {
-    git -C "$top" log -1 --format=%ct || die "packages are built from the last commit of a git checkout (see above)"
-}
-
-# take_sources FOLDER: the last commit alone.
-take_sources() {
-    rm -rf "$1"
-    mkdir -p "$1" || die "$1 cannot be made"
-    git -C "$top" archive HEAD | tar -x -C "$1" || die "the last commit could not be copied to $1"
+# last_commit: the one of now, whatever is committed while it is built.
+last_commit() {
+    git -C "$top" rev-parse HEAD || die "packages are built from the last commit of a git checkout (see above)"
     [ -z "$(git -C "$top" status --porcelain)" ] ||
         printf '%s: what is not committed is not in the packages\n' "$me" >&2
+}
+
+# take_sources COMMIT FOLDER: what is in the commit alone.
+take_sources() {
+    rm -rf "$2"
+    mkdir -p "$2" || die "$2 cannot be made"
+    git -C "$top" archive "$1" | tar -x -C "$2" || die "the commit could not be copied to $2"
 }
 
 # pack SOURCES FOLDER: CPack leaves its working folder beside what it makes.
@@ -25,18 +25,17 @@ pack() {
     mv "$made"/gloomdeck-*.tar.gz "$made"/gloomdeck_*.deb "$2"
 }
 
-# release SOURCES FOLDER: builds in SOURCES, whose contents it replaces, and leaves the packages in FOLDER. No cache
-# takes part, so that a second build is one.
+# release COMMIT SOURCES FOLDER: builds in SOURCES, whose contents it replaces, and leaves the packages in FOLDER.
+# Everything in them has the date of the commit. No cache takes part, so that a second build is one.
 release() {
-    local SOURCE_DATE_EPOCH
-    SOURCE_DATE_EPOCH="$(date_of_commit)"
-    take_sources "$1"
+    take_sources "$1" "$2"
     (
         umask 022
+        SOURCE_DATE_EPOCH="$(git -C "$top" log -1 --format=%ct "$1")"
         export SOURCE_DATE_EPOCH CCACHE_DISABLE=1 LC_ALL=C.UTF-8 TZ=UTC
-        top="$1"
+        top="$2"
         build package
-        pack "$1" "$2"
+        pack "$2" "$3"
     )
-    (cd "$2" && sha256sum gloomdeck-*.tar.gz gloomdeck_*.deb)
+    (cd "$3" && sha256sum gloomdeck-*.tar.gz gloomdeck_*.deb)
 }
