@@ -23,7 +23,7 @@ INSTALLED = pathlib.Path("/usr/lib/games/gloomdeck")
 NOT_KEPT = "this game is not kept"
 SCENARIO_TAB, THIRD_ROW, START, MARKED_ROW = (125, 16), (330, 57), (228, 208), "faebd7"
 BOARD, BOARD_EDGE, NOWHERE = (8, 28, 224, 236), (8, 39), (236, 320)
-OFF_DISPLAY = {"PATH": "/usr/bin:/bin:/usr/games", "LANG": "C.UTF-8"}
+SESSION = {"PATH": "/usr/bin:/bin:/usr/games", "LANG": "C.UTF-8"}
 
 
 def run(*words, **options):
@@ -96,12 +96,16 @@ class Play:
         check(code == 0 and right, f"it ended with {code} and wrote '{errors}'")
 
 
+def starting(display, player, program=LAUNCHER, **environment):
+    """environment: beyond a session's own; None takes a variable away."""
+    words = {**SESSION, "DISPLAY": display, "HOME": str(player.home), **environment}
+    words = {name: str(word) for name, word in words.items() if word is not None}
+    return started([program], cwd="/", env=words, **player.ids)
+
+
 @contextlib.contextmanager
 def playing(display, player, folder=None, program=LAUNCHER, **environment):
-    """environment: beyond a session's own; None takes a variable away."""
-    words = {**OFF_DISPLAY, "DISPLAY": display, "HOME": str(player.home), **environment}
-    words = {name: str(word) for name, word in words.items() if word is not None}
-    with started([program], cwd="/", env=words, **player.ids) as process:
+    with starting(display, player, program, **environment) as process:
         yield Play(process, folder or player.share / "gloomdeck", display)
 
 
@@ -238,6 +242,15 @@ def bad_inputs(world):
     with playing(display, zoe, XDG_DATA_HOME=share) as play:
         play.begin("Loops")
         play.leave()
+
+    yield "two starts at once"
+    share = zoe.home / "twice"
+    both = [starting(display, zoe, XDG_DATA_HOME=share) for _ in range(2)]
+    with both[0] as one, both[1] as two:
+        for process in one, two:
+            Play(process, share / "gloomdeck", display).leave()
+    names = sorted(path.name for path in (share / "gloomdeck").rglob("*") if not path.is_symlink())
+    check(names == ["DGDG.dat", "DGDP.dat", "Data"], f"the folder holds {names}")
 
     yield "Data of a portable copy put in place by hand"
     own = zoe.home / "by hand" / "gloomdeck"
