@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/files.h"
 #include "platform/frame.h"
 
 namespace gloomdeck {
@@ -106,12 +105,15 @@ void copyPixels(const BitmapHeader& h, const Bytes& file, Image& target) {
 
 }  // namespace
 
-void loadBitmap(const std::string& path, Image& target) {
-    const Bytes file = fileContents(path).value_or(Bytes{});
+bool decodeBitmap(const Bytes& file, Image& target) {
     const std::optional<BitmapHeader> header = headerOf(file);
-    if (!header) return;
-    copyPixels(*header, file, target);
-    if (&target == &screen()) frameChanged();
+    if (header) copyPixels(*header, file, target);
+    return header.has_value();
+}
+
+void loadBitmap(const std::string& path, Image& target) {
+    const bool found = decodeBitmap(fileContents(path).value_or(Bytes{}), target);
+    if (found && &target == &screen()) frameChanged();
 }
 
 }  // namespace gloomdeck

@@ -886,7 +886,7 @@ static_assert(everyGridIsWhole());
 constexpr Glyph glyphFrom(Grid grid) {
     Glyph glyph{};
     for (std::size_t i = 0; i < grid.size(); ++i) {
-        const unsigned ink = grid[i] == '#' ? 1 : 0;
+        const int ink = grid[i] == '#' ? 1 : 0;
         std::uint8_t& row = glyph[i / glyphSize];
         row = static_cast<std::uint8_t>((row << 1) | ink);
     }

@@ -1,23 +1,16 @@
 // Plays random games through the real screens, closes the program and starts it again, for as long as asked.
-#include <unistd.h>
-
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
 
-#include "platform/frame.h"
 #include "platform/host_script.h"
-#include "prefs/prefs.h"
-#include "rules/game_state.h"
 #include "shell/main_loop.h"
 #include "shell/ui_state.h"
 #include "tests/support/reset.h"
+#include "tools/common/program_folder.h"
 #include "tools/soak/player.h"
 #include "tools/soak/watch.h"
 
@@ -42,25 +35,6 @@ long pollsAfterEnd = 0;
 
 bool timeIsUp() { return std::chrono::steady_clock::now() >= end; }
 
-// The folder that the program under test runs in.
-struct ProgramFolder {
-    explicit ProgramFolder(const std::string& pictures)
-        : path((std::filesystem::temp_directory_path() / "gloomdeck-soak-XXXXXX").string()) {
-        if (!mkdtemp(path.data())) throw Broken("no temporary folder");
-        std::filesystem::create_directories(path + "/Data");
-        if (!pictures.empty())
-            std::filesystem::create_directory_symlink(std::filesystem::absolute(pictures), path + "/gfx");
-    }
-    ~ProgramFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path, ignored);
-    }
-    ProgramFolder(const ProgramFolder&) = delete;
-    ProgramFolder& operator=(const ProgramFolder&) = delete;
-
-    std::string path;
-};
-
 bool whenIdle(InputQueue& queue) {
     watch(true);
     act(queue);
@@ -82,22 +56,13 @@ bool atPoll(InputQueue& queue) {
     return true;
 }
 
-std::string contentsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void checkSavedGame(const std::string& folder) {
-    const std::string_view record(reinterpret_cast<const char*>(&game), sizeof game);
-    if (contentsOf(folder + "/Data/DGDP.dat") != record) throw Broken("the saved game is not the one played");
-}
-
 // One life of the program, from its start to its end.
-void runOnce(const std::string& folder) {
+void runOnce(const ProgramFolder& folder) {
+    const SavedFiles before = savedFiles(folder);
     forgetProgram();
     pollsAfterEnd = 0;
     watchFromStart();
-    script::setFolder(folder);
+    script::setFolder(folder.path);
     script::setFramePeriod(oneIn(4) ? displayPeriod : brokenDisplay);
     script::advanceClock(std::chrono::duration<double>(1 + tally.moves).count());
     script::feedWhenIdle(whenIdle);
@@ -106,7 +71,7 @@ void runOnce(const std::string& folder) {
         runGloomdeck();
     } catch (const script::ProgramEnded& ended) {
         if (ended.exitCode != 0) throw Broken("the exit code is " + std::to_string(ended.exitCode));
-        checkSavedGame(folder);
+        if (const std::string why = savedFault(folder, before); !why.empty()) throw Broken(why);
     } catch (const WindowLost&) {
         ui.lockDepth = 0;
     }
@@ -118,7 +83,7 @@ std::string playUntilTheEnd(const Options& options) {
           std::chrono::milliseconds(static_cast<long>(options.seconds * 1000));
     try {
         const ProgramFolder folder(options.pictures);
-        while (!timeIsUp()) runOnce(folder.path);
+        while (!timeIsUp()) runOnce(folder);
     } catch (const std::exception& fault) {
         return fault.what();
     }
