@@ -27,7 +27,6 @@ Bytes bytesOf(const Record& record) {
     return {first, first + sizeof record};
 }
 
-// An empty file is left out.
 void put(const std::string& path, const Bytes& contents) {
     if (contents.empty()) return;
     std::ofstream(path, std::ios::binary)
@@ -85,6 +84,11 @@ void putFiles(const ProgramFolder& folder, const SavedFiles& files) {
     clearFiles(folder);
     put(folder.gameFile(), files.game);
     put(folder.prefsFile(), files.prefs);
+}
+
+void putLeftovers(const ProgramFolder& folder, const SavedFiles& files) {
+    put(folder.newGameFile(), files.game);
+    put(folder.nextPrefsFile(), files.prefs);
 }
 
 void clearFiles(const ProgramFolder& folder) {

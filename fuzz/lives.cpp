@@ -8,6 +8,7 @@
 #include "content/scenarios.h"
 #include "fuzz/fault.h"
 #include "fuzz/player.h"
+#include "platform/files.h"
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
 #include "prefs/saved_data.h"
@@ -129,6 +130,8 @@ void checkEnd(const ProgramFolder& folder, const SavedFiles& before, int exitCod
     checkPromises();
     const std::string wrong = savedFault(folder, before);
     if (!wrong.empty()) fault(wrong);
+    if (fileExists(folder.newGameFile()) || fileExists(folder.nextPrefsFile()))
+        fault("something is left beside the saved files");
     checkReading(folder);
 }
 

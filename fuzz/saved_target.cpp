@@ -70,6 +70,16 @@ SavedFiles chosenFiles(InputBytes& bytes) {
     return files;
 }
 
+// What a cut has left: most inputs nothing, some one of the two, some both.
+void leaveHalfDone(InputBytes& bytes, const ProgramFolder& folder) {
+    const int how = bytes.byte();
+    if (how < 224) return;
+    SavedFiles left = filesOfRecords();
+    left.game.resize((how & 1) == 0 ? 0 : left.game.size() / 2);
+    left.prefs.resize((how & 2) == 0 ? 0 : left.prefs.size() - static_cast<std::size_t>(bytes.below(4)));
+    putLeftovers(folder, left);
+}
+
 }  // namespace
 
 }  // namespace gloomdeck::fuzz
@@ -79,6 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ProgramFolder folder;
     fuzz::InputBytes bytes{{data, size}};
     fuzz::putFiles(folder, fuzz::chosenFiles(bytes));
+    fuzz::leaveHalfDone(bytes, folder);
     fuzz::playLives(folder, bytes);
     return 0;
 }

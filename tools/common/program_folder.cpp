@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "platform/files.h"
 #include "prefs/prefs.h"
 #include "rules/game_state.h"
 
@@ -37,8 +38,10 @@ ProgramFolder::~ProgramFolder() {
 }
 
 SavedFiles savedFiles(const ProgramFolder& folder) {
+    const bool nextWaits = fileExists(folder.nextPrefsFile()) && !fileExists(folder.newGameFile());
+    const std::string prefsFile = nextWaits ? folder.nextPrefsFile() : folder.prefsFile();
     return {.game = fileContents(folder.gameFile()).value_or(Bytes{}),
-            .prefs = fileContents(folder.prefsFile()).value_or(Bytes{})};
+            .prefs = fileContents(prefsFile).value_or(Bytes{})};
 }
 
 std::string savedFault(const ProgramFolder& folder, const SavedFiles& before) {

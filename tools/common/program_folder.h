@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/files.h"
+#include "platform/bytes.h"
 
 namespace gloomdeck {
 
@@ -18,16 +18,19 @@ struct ProgramFolder {
 
     std::string gameFile() const { return path + "/Data/DGDP.dat"; }
     std::string prefsFile() const { return path + "/Data/DGDG.dat"; }
+    std::string newGameFile() const { return gameFile() + ".new"; }
+    std::string nextPrefsFile() const { return prefsFile() + ".next"; }
 
     std::string path;
 };
 
-/// The bytes of the two saved files; empty where there is none.
 struct SavedFiles {
     Bytes game;
     Bytes prefs;
 };
 
+/// The bytes of the two saved files; empty where there is none. Preferences that a cut has left to be renamed
+/// count as the file itself, as they do for the next start.
 SavedFiles savedFiles(const ProgramFolder& folder);
 
 /// What is wrong with the two files after a run that has just ended, compared with the records and, behind
