@@ -11,6 +11,7 @@ struct Broken : std::runtime_error {
 };
 
 struct Tally {
+    long events = 0;  // of input
     long moves = 0;
     long games = 0;
     long starts = 0;
