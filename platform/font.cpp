@@ -877,7 +877,7 @@ constexpr std::array<Grid, characterCount> grids = {
 // clang-format on
 
 constexpr bool everyGridIsWhole() {
-    return std::ranges::all_of(grids, [](Grid grid) {
+    return std::all_of(grids.begin(), grids.end(), [](Grid grid) {
         return grid.size() == glyphSize * glyphSize && grid.find_first_not_of(".#") == Grid::npos;
     });
 }
@@ -888,7 +888,7 @@ constexpr Glyph glyphFrom(Grid grid) {
     for (std::size_t i = 0; i < grid.size(); ++i) {
         const int ink = grid[i] == '#' ? 1 : 0;
         std::uint8_t& row = glyph[i / glyphSize];
-        row = static_cast<std::uint8_t>((row << 1) | ink);
+        row = static_cast<std::uint8_t>(row * 2U + ink);
     }
     return glyph;
 }

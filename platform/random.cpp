@@ -1,7 +1,7 @@
 #include "platform/random.h"
 
-#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <random>
 
 namespace gloomdeck {
@@ -13,7 +13,12 @@ RandomSource otherSource = nullptr;
 
 }  // namespace
 
-void randomize(double seed) { generator.seed(std::bit_cast<std::uint64_t>(seed)); }
+void randomize(double seed) {
+    std::uint64_t bits = 0;
+    static_assert(sizeof bits == sizeof seed);
+    std::memcpy(&bits, &seed, sizeof bits);  // not every standard library has bit_cast yet
+    generator.seed(bits);
+}
 
 double rnd() {
     if (otherSource) return otherSource();

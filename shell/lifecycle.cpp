@@ -29,7 +29,6 @@ void shutDown() {
 
 void saveAfterLoss() {
     if (!runIsSaved) saveSafePoint();
-    runIsSaved = true;
 }
 
 void resetLifecycle() { runIsSaved = false; }

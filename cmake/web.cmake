@@ -1,0 +1,23 @@
+# The game in a browser page: one module beside the page's own files. The pictures are painted by the release
+# build, since the painter runs on this machine.
+set(GLOOMDECK_GFX ${PROJECT_SOURCE_DIR}/build/release/gfx CACHE PATH "the folder of the painted pictures")
+set(web_library ${PROJECT_SOURCE_DIR}/platform/host_web.js)
+
+add_executable(gloomdeck shell/main.cpp platform/host_web.cpp)
+target_link_libraries(gloomdeck PRIVATE gloomdeck_game)
+
+# Nothing of ours throws, and unwinding would double the module.
+target_compile_options(gloomdeck_options INTERFACE -fno-exceptions)
+
+# A polling loop cannot wait in a browser, so the stack is put aside for the time of a wait.
+target_link_options(gloomdeck PRIVATE
+  -fno-exceptions
+  -sASYNCIFY -sASYNCIFY_STACK_SIZE=16384
+  -sASYNCIFY_IMPORTS=gloomdeckSleep,gloomdeckAwaitInput,gloomdeckBreathe,gloomdeckRest
+  -sMODULARIZE -sEXPORT_NAME=createGloomdeck
+  -sENVIRONMENT=web
+  --js-library ${web_library}
+  --embed-file ${GLOOMDECK_GFX}@/gloomdeck/gfx)
+
+file(GLOB web_pictures CONFIGURE_DEPENDS ${GLOOMDECK_GFX}/*.bmp)
+set_target_properties(gloomdeck PROPERTIES LINK_DEPENDS "${web_library};${web_pictures}")

@@ -1,0 +1,154 @@
+// The host of the browser page: what the game asks of it, over the functions of host_web.js. Waits put the
+// game's stack aside, so that the browser can do its own work meanwhile.
+#include <emscripten.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/host.h"
+#include "platform/scaling.h"
+
+extern "C" {
+void gloomdeckOpen(int width, int height);
+void gloomdeckTitle(const char* title);
+void gloomdeckPaint(const std::uint8_t* pixels, int width, int firstRow, int rows);
+int gloomdeckTakeEvent(std::int32_t* event);
+double gloomdeckSeconds();
+void gloomdeckSleep(int milliseconds);
+void gloomdeckAwaitInput(double milliseconds);
+void gloomdeckBreathe();
+void gloomdeckRest();
+void gloomdeckKeepFiles();
+void gloomdeckEnded();
+}
+
+namespace gloomdeck::host {
+
+namespace {
+
+constexpr double period = 1.0 / 60.0;
+constexpr double longestBreath = period;  // seconds without a wait after which the browser gets a turn
+
+// What host_web.js hands over, in its order: the kind and two numbers.
+enum class EventKind : std::int32_t { moved, left, button, key, repaint };
+struct Event {
+    EventKind kind = EventKind::repaint;
+    std::int32_t first = 0;
+    std::int32_t second = 0;
+};
+static_assert(sizeof(Event) == 3 * sizeof(std::int32_t));
+
+constexpr int extendedKey = 0x100;  // a key code with the mark 255 in front
+
+Extent frameSize;
+std::vector<Colour> shown;
+std::vector<std::uint8_t> painted;  // the same as the canvas takes it: red, green, blue, alpha
+double lastBreath = 0;
+void (*saveWhenLost)() = nullptr;
+
+void convertRows(Rows rows) {
+    const std::size_t width = static_cast<std::size_t>(frameSize.width);
+    const std::size_t end = static_cast<std::size_t>(rows.last + 1) * width;
+    for (std::size_t i = static_cast<std::size_t>(rows.first) * width; i < end; ++i) {
+        std::uint8_t* const to = painted.data() + 4 * i;
+        to[0] = static_cast<std::uint8_t>(shown[i] >> 16);
+        to[1] = static_cast<std::uint8_t>(shown[i] >> 8);
+        to[2] = static_cast<std::uint8_t>(shown[i]);
+    }
+}
+
+void paintRows(Rows rows) {
+    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width * 4;
+    gloomdeckPaint(painted.data() + start, frameSize.width, rows.first, rows.last - rows.first + 1);
+}
+
+void noteKey(InputQueue& queue, const Event& event) {
+    std::string key(1, static_cast<char>(event.first));
+    if (event.first >= extendedKey) key.insert(0, 1, '\xFF');
+    keyTyped(queue, key, event.second != 0);
+}
+
+void noteEvent(InputQueue& queue, const Event& event) {
+    switch (event.kind) {
+        case EventKind::moved: return pointerMoved(queue, event.first, event.second);
+        case EventKind::left: return pointerLeft(queue);
+        case EventKind::button: return buttonChanged(queue, event.first != 0);
+        case EventKind::key: return noteKey(queue, event);
+        case EventKind::repaint: return paintRows({0, frameSize.height - 1});
+    }
+}
+
+// A long run of moves without a wait must neither hide its pictures nor keep a key that stops it.
+void breatheWhenDue() {
+    if (seconds() - lastBreath < longestBreath) return;
+    gloomdeckBreathe();
+    lastBreath = seconds();
+}
+
+}  // namespace
+
+void open(int width, int height) {
+    frameSize = {width, height};
+    const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    shown.assign(pixels, 0);
+    painted.assign(4 * pixels, 0xFF);
+    gloomdeckOpen(width, height);
+}
+
+void setTitle(const std::string& title) { gloomdeckTitle(title.c_str()); }
+
+void present(const Colour* pixels, Rows changed) {
+    const Rows rows = changedRows(frameSize, changed, shown.data(), pixels);
+    if (rows.last < rows.first) return;
+    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
+    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shown.begin() + start);
+    convertRows(rows);
+    paintRows(rows);
+}
+
+double framePeriod() { return period; }
+
+// The browser shows what was painted at its own next picture.
+void waitForRetrace() {}
+
+void pump(InputQueue& queue) {
+    breatheWhenDue();
+    Event event;
+    while (gloomdeckTakeEvent(reinterpret_cast<std::int32_t*>(&event)) != 0) noteEvent(queue, event);
+}
+
+void sleep(int milliseconds) {
+    if (milliseconds <= 0) return;
+    gloomdeckSleep(milliseconds);
+    lastBreath = seconds();
+}
+
+void waitForInput(double seconds) {
+    if (seconds <= 0) return;
+    gloomdeckAwaitInput(seconds * 1000.0);
+    lastBreath = host::seconds();
+}
+
+double seconds() { return gloomdeckSeconds(); }
+
+std::string programFolder() { return "/gloomdeck"; }
+
+void onLost(void (*save)()) { saveWhenLost = save; }
+
+void end(int /*exitCode*/) {
+    gloomdeckKeepFiles();
+    gloomdeckEnded();
+    while (true) gloomdeckRest();
+}
+
+}  // namespace gloomdeck::host
+
+/// The page is being left or hidden: what must happen before anything else can. It never waits.
+extern "C" EMSCRIPTEN_KEEPALIVE void gloomdeckLeave() {
+    if (gloomdeck::host::saveWhenLost != nullptr) gloomdeck::host::saveWhenLost();
+    gloomdeckKeepFiles();
+}
