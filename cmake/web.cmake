@@ -16,6 +16,7 @@ target_link_options(gloomdeck PRIVATE
   -sASYNCIFY_IMPORTS=gloomdeckSleep,gloomdeckAwaitInput,gloomdeckBreathe,gloomdeckRest
   -sMODULARIZE -sEXPORT_NAME=createGloomdeck
   -sENVIRONMENT=web
+  -sEXPORTED_FUNCTIONS=_main,_gloomdeckLeave
   --js-library ${web_library}
   --embed-file ${GLOOMDECK_GFX}@/gloomdeck/gfx)
 

@@ -1,7 +1,5 @@
 // The host of the browser page: what the game asks of it, over the functions of host_web.js. Waits put the
 // game's stack aside, so that the browser can do its own work meanwhile.
-#include <emscripten.h>
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -24,6 +22,7 @@ void gloomdeckBreathe();
 void gloomdeckRest();
 void gloomdeckKeepFiles();
 void gloomdeckEnded();
+void gloomdeckLeave();
 }
 
 namespace gloomdeck::host {
@@ -51,7 +50,7 @@ double lastBreath = 0;
 void (*saveWhenLost)() = nullptr;
 
 void convertRows(Rows rows) {
-    const std::size_t width = static_cast<std::size_t>(frameSize.width);
+    const auto width = static_cast<std::size_t>(frameSize.width);
     const std::size_t end = static_cast<std::size_t>(rows.last + 1) * width;
     for (std::size_t i = static_cast<std::size_t>(rows.first) * width; i < end; ++i) {
         std::uint8_t* const to = painted.data() + 4 * i;
@@ -147,8 +146,8 @@ void end(int /*exitCode*/) {
 
 }  // namespace gloomdeck::host
 
-/// The page is being left or hidden: what must happen before anything else can. It never waits.
-extern "C" EMSCRIPTEN_KEEPALIVE void gloomdeckLeave() {
+// Called from outside: the page is being left or hidden, and nothing may wait any more.
+void gloomdeckLeave() {
     if (gloomdeck::host::saveWhenLost != nullptr) gloomdeck::host::saveWhenLost();
     gloomdeckKeepFiles();
 }
