@@ -20,7 +20,7 @@ let fills = false;
 
 function roomInDevicePixels() {
   const page = document.documentElement;
-  const ratio = window.devicePixelRatio;
+  const ratio = devicePixelRatio;
   return { width: Math.floor(page.clientWidth * ratio + 0.01), height: Math.floor(page.clientHeight * ratio + 0.01) };
 }
 
@@ -39,20 +39,29 @@ function layOut(width, height) {
   document.body.classList.toggle('tight', !isBeside && below < 130);
 }
 
-// Between device pixels the browser would blur the edges of every pixel of the picture.
+// The fewest whole CSS pixels that make whole device pixels: 2 for a density of 1.5.
+function wholeStep() {
+  const isWhole = step => Math.abs(step * devicePixelRatio - Math.round(step * devicePixelRatio)) < 1e-6;
+  return [1, 2, 3, 4, 5, 8, 10, 20].find(isWhole) ?? 1;
+}
+
+// Off the device's pixels the browser would blur the picture's edges. A transform would move what is already
+// rounded, and fractions of a CSS pixel are rounded in their own way.
 function alignToDevicePixels() {
-  const ratio = window.devicePixelRatio;
-  canvas.style.transform = '';
+  const step = wholeStep();
+  canvas.style.left = canvas.style.top = '0';
   const place = canvas.getBoundingClientRect();
-  const off = value => Math.round(value * ratio) / ratio - value;
-  canvas.style.transform = `translate(${off(place.left + scrollX)}px, ${off(place.top + scrollY)}px)`;
+  const off = value => Math.round(value / step) * step - value;
+  canvas.style.left = `${off(place.left + scrollX)}px`;
+  canvas.style.top = `${off(place.top + scrollY)}px`;
 }
 
 function fitPicture() {
   const { whole, largest } = scaleFor(roomInDevicePixels());
   const scale = fills ? largest : whole;
-  const width = frame.width * scale / window.devicePixelRatio;
-  const height = frame.height * scale / window.devicePixelRatio;
+  const inCss = length => length * scale / devicePixelRatio;
+  const width = inCss(frame.width);
+  const height = inCss(frame.height);
   canvas.style.width = `${width}px`;
   canvas.style.height = `${height}px`;
   canvas.classList.toggle('smooth', scale < 1);
@@ -63,7 +72,7 @@ function fitPicture() {
 }
 
 function watchDensity() {
-  const query = matchMedia(`(resolution: ${window.devicePixelRatio}dppx)`);
+  const query = matchMedia(`(resolution: ${devicePixelRatio}dppx)`);
   query.addEventListener('change', () => { fitPicture(); watchDensity(); }, { once: true });
 }
 
@@ -111,6 +120,7 @@ function showEnd() {
 
 // Files given take the place of those that the browser keeps.
 function start(files) {
+  module = null;
   at('ended').hidden = true;
   canvas.focus({ preventScroll: true });
   const locateFile = () => document.querySelector('link[rel="preload"]').href;
@@ -126,8 +136,8 @@ function playAgain() {
 // The game as files.
 
 function offerFiles() {
-  module.game.leave();
-  const files = module.game.files();
+  module?.game.leave();
+  const files = module && module.game.files();
   at('nofiles').hidden = files !== null;
   fileNames.forEach((name, i) => {
     const link = at(`file${i}`);
@@ -152,7 +162,7 @@ async function readTaken(list) {
 async function takeFiles(event) {
   try {
     const files = await readTaken(event.target.files);
-    module.game.halt();
+    module?.game.halt();
     at('files').open = false;
     say('takenbad', '');
     start(files);
@@ -172,15 +182,15 @@ function resetTyping() {
 function passTyping(event) {
   if (event.isComposing) return;
   const text = at('typed').value;
-  if (!text.includes(typingMark)) module.game.typeKey('Backspace', false);
-  for (const character of text.replace(typingMark, '')) module.game.typeKey(character, false);
+  if (!text.includes(typingMark)) module?.game.typeKey('Backspace', false);
+  for (const character of text.replace(typingMark, '')) module?.game.typeKey(character, false);
   resetTyping();
 }
 
 function passTypingKey(event) {
   if (event.isComposing || !['Enter', 'Escape'].includes(event.key)) return;
   event.preventDefault();
-  module.game.typeKey(event.key, false);
+  module?.game.typeKey(event.key, false);
   at('typed').blur();
 }
 

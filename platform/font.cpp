@@ -888,7 +888,7 @@ constexpr Glyph glyphFrom(Grid grid) {
     for (std::size_t i = 0; i < grid.size(); ++i) {
         const int ink = grid[i] == '#' ? 1 : 0;
         std::uint8_t& row = glyph[i / glyphSize];
-        row = static_cast<std::uint8_t>(row * 2U + ink);
+        row = static_cast<std::uint8_t>((row << 1) | ink);
     }
     return glyph;
 }

@@ -1,6 +1,6 @@
 // The seam under the frame buffer: the few operations that differ between a desktop window, a script and a
-// browser. One implementation is chosen at link time (host_sdl.cpp, host_script.cpp, host_web.cpp); everything
-// above is the same code everywhere.
+// browser. One implementation is chosen at link time (host_sdl.cpp, host_script.cpp, host_web.cpp);
+// everything above is the same code everywhere.
 #pragma once
 
 #include <string>
@@ -45,8 +45,8 @@ double seconds();
 std::string programFolder();
 
 /// Names what must happen when the window may be gone for good: the window system takes the program down
-/// without asking, or a page is hidden. A program that lives on after all goes on, and is asked again. The call
-/// comes between two calls of this seam or out of a wait in it, and must not wait itself.
+/// without asking, or a page is hidden. A program that lives on after all goes on, and is asked again. The
+/// call comes between two calls of this seam or out of a wait in it, and must not wait itself.
 void onLost(void (*save)());
 
 /// Closes the window and ends the program.

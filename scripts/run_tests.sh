@@ -76,27 +76,36 @@ run_unit_tests() {
     rm -f "$now.log" "$now.results"
 }
 
-# run_script SCRIPT BUILD DIST: a test script prints lines `PASS name`, `FAIL name: why`, `SKIP name: why`.
+# run_script SCRIPT BUILD DIST [MORE...]: a test script prints lines `PASS name`, `FAIL name: why`, `SKIP name: why`.
 run_script() {
     local name log code before=$((passed + failed + skipped))
     name="$(basename "$(dirname "$1")")"
     log="$2/tests-$name.log"
     set +e
-    timeout --kill-after=10 "$limit" "$1" "$2" "$3" </dev/null 2>&1 | tee "$log" | grep -v '^PASS '
+    timeout --kill-after=10 "$limit" "$@" </dev/null 2>&1 | tee "$log" | grep -v '^PASS '
     code=${PIPESTATUS[0]}
     set -e
     count passed '^PASS ' "$log"
     count failed '^FAIL ' "$log"
     count skipped '^SKIP ' "$log"
     if [ "$code" != 0 ] && ! grep -q '^FAIL ' "$log"; then
-        fail_also "$name" "tests/$name/run ended with code $code"
+        fail_also "$name" "tests/$name/${1##*/} ended with code $code"
     elif [ $((passed + failed + skipped)) = "$before" ]; then
-        fail_also "$name" "tests/$name/run reported no test"
+        fail_also "$name" "tests/$name/${1##*/} reported no test"
     fi
 }
 
 # matches TEXT PATTERN
 matches() { case "$1" in *$2*) return 0 ;; esac; return 1; }
+
+# print_counts: fails unless tests ran and none failed.
+print_counts() {
+    [ $((passed + failed)) -gt 0 ] || printf '%s: no test ran\n' "$me"
+    printf '%d passed, %d failed' "$passed" "$failed"
+    [ "$skipped" = 0 ] || printf ', %d skipped' "$skipped"
+    printf '\n'
+    [ "$failed" = 0 ] && [ "$passed" -gt 0 ]
+}
 
 # run_all_tests BUILD DIST PATTERN: ends with the counts and fails unless tests ran and none failed.
 run_all_tests() {
@@ -107,9 +116,5 @@ run_all_tests() {
         [ -x "$script" ] || continue
         if matches "$(basename "$(dirname "$script")")" "$3"; then run_script "$script" "$1" "$2"; fi
     done
-    [ $((passed + failed)) -gt 0 ] || printf '%s: no test ran\n' "$me"
-    printf '%d passed, %d failed' "$passed" "$failed"
-    [ "$skipped" = 0 ] || printf ', %d skipped' "$skipped"
-    printf '\n'
-    [ "$failed" = 0 ] && [ "$passed" -gt 0 ]
+    print_counts
 }

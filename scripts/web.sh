@@ -1,6 +1,7 @@
-# The browser page: its packages, its build, its folder. Sourced by ./web and ./check, after setup.sh.
+# The browser page: its packages, its build, its folder, its tests. Sourced by ./web and ./check, after setup.sh.
 
 web_packages=(emscripten python3)
+web_test_packages=(chromium)
 
 # page_version: short, and another one as soon as anything that the page loads is another.
 page_version() { cat "$top"/page/* "$top"/build/web/gloomdeck.{js,wasm} | sha256sum | cut -c 1-10; }
@@ -13,15 +14,31 @@ stage_page() {
     mkdir -p "$1" "$made" || die "$1 cannot be made"
     sed -E "s/(href|src)=\"([a-z]+\.(js|wasm|css|png))\"/\1=\"\2?v=$version\"/" "$top/page/index.html" >"$made/index.html"
     cp "$top"/page/*.{css,js} "$top"/build/web/gloomdeck.{js,wasm} "$made"
-    cp "$top/build/release/icons/32x32/apps/gloomdeck.png" "$made/icon.png"
+    "$top/build/release/art/artbake" --icons "$top/build/web/icons" || die "the icons could not be painted"
+    cp "$top/build/web/icons/32x32/apps/gloomdeck.png" "$made/icon.png"
     chmod 644 "$made"/*
     for file in "$made"/*; do copy_changed "$file" "$1"; done
 }
 
 # build_web: the pictures are painted here, since the browser's build makes only what runs in a browser.
 build_web() {
-    build release gfx icons
+    build release gfx
     # Where node is not Debian's, it finds Debian's libraries by this alone.
     NODE_PATH="/usr/share/nodejs${NODE_PATH:+:$NODE_PATH}" build web
     stage_page "$top/dist/web"
+}
+
+# need_driver: what steers the browser, at the version that the lock names.
+need_driver() {
+    local folder="$top/tests/web"
+    command -v npm >/dev/null || need_packages nodejs npm
+    [ "$folder/node_modules/.package-lock.json" -nt "$folder/package-lock.json" ] && return
+    (cd "$folder" && npm ci --no-audit --no-fund --ignore-scripts >&2) ||
+        die "playwright-core could not be installed (see above); with a network run: cd tests/web && npm ci"
+}
+
+# test_page PATTERN: plays the page in a browser, and counts.
+test_page() {
+    run_script "$top/tests/web/drive.mjs" "$top/build/web" "$top/dist/web" "$1"
+    print_counts
 }

@@ -12,8 +12,8 @@ int confirm(const std::string& question, int skip);
 /// Frees the pictures and saves the preferences and the game.
 void shutDown();
 
-/// What the host calls when the window may be gone for good: saves the records as at the last return to a loop,
-/// but never after shutDown, which has saved later ones.
+/// What the host calls when the window may be gone for good: saves the records as at the last return to a
+/// loop, but never after shutDown, which has saved later ones.
 void saveAfterLoss();
 
 /// Forgets that a run was saved (tests start from here).

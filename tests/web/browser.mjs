@@ -1,0 +1,217 @@
+// Chromium, the page in it, and what the tests do and see there: places are pixels of the game's frame.
+import { inflateSync } from 'node:zlib';
+import { chromium } from 'playwright-core';
+
+const patience = 20000; // milliseconds; nothing takes nearly as long
+
+const quiet = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking',
+  '--disable-component-update', '--disable-sync'];
+
+export const launchOptions = { executablePath: process.env.GLOOMDECK_CHROMIUM ?? '/usr/bin/chromium', args: quiet };
+export const launch = (...more) => chromium.launch({ ...launchOptions, args: [...quiet, ...more] });
+
+export async function until(what, holds) {
+  const end = Date.now() + patience;
+  while (!await holds()) {
+    if (Date.now() > end) throw new Error(`waited in vain for ${what}`);
+    await new Promise(resolve => setTimeout(resolve, 20));
+  }
+}
+
+// The two files as the page keeps them.
+
+export const place = {
+  board: (col, row = 6) => ({ x: 24 + 32 * col, y: 56 + 32 * row }),
+  stats: row => ({ x: 260, y: 56 + 32 * row }),
+  scenarioTab: { x: 125, y: 16 },
+  listRow: row => ({ x: 330, y: 37 + 10 * row }),
+  start: { x: 228, y: 208 },
+  exit: { x: 368, y: 472 },
+  yes: { x: 168, y: 262 },
+  no: { x: 240, y: 262 },
+  trainingDone: { x: 209, y: 376 },
+  toggle: row => ({ x: 124, y: row === 6 ? 314 : 182 + 19 * row }),
+};
+
+const goldCode = 0;
+const cellAt = (col, row) => 24 + 44 * col + 8 + 4 * row;
+
+export class Saved {
+  constructor(text) {
+    const item = typeof text === 'string' ? JSON.parse(text) : text;
+    this.game = Buffer.from(item['DGDP.dat'], 'base64');
+    this.prefs = Buffer.from(item['DGDG.dat'], 'base64');
+  }
+
+  text() {
+    const item = { 'DGDP.dat': this.game.toString('base64'), 'DGDG.dat': this.prefs.toString('base64') };
+    return JSON.stringify(item);
+  }
+
+  get hero() { return this.prefs.toString('latin1', 12, 33).replace(/\0.*/, ''); }
+  set hero(name) { this.prefs.fill(0, 12, 33).write(name, 12); }
+  get player() { return this.game.toString('latin1', 0, 21).replace(/\0.*/, ''); }
+  get screen() { return this.prefs.readInt32LE(4); }
+  get switches() { return this.prefs.readUInt32LE(48); }
+  set switches(bits) { this.prefs.writeUInt32LE(bits, 48); }
+  set speed(index) { this.prefs.writeInt32LE(index, 0); }
+  get turns() { return this.game.readInt32LE(476); }
+  get gold() { return this.game.readInt32LE(376 + 4 * 2); }
+  drawn(col) { return this.game.readInt32LE(24 + 44 * col + 4); }
+
+  fillWithGold() {
+    for (let col = 0; col < 7; ++col)
+      for (let row = 0; row < 7; ++row) this.game.writeInt32LE(goldCode, cellAt(col, row));
+    return this;
+  }
+}
+
+// A page, whose faults and requests are noted.
+export class Player {
+  constructor(page, address) {
+    this.page = page;
+    this.address = address;
+    this.key = `gloomdeck:${new URL('.', address).pathname}`;
+    this.faults = [];
+    this.requests = [];
+    page.on('pageerror', error => this.faults.push(error.message));
+    page.on('console', message => { if (message.type() === 'error') this.faults.push(message.text()); });
+    page.on('request', request => this.requests.push(request.url()));
+  }
+
+  async load() {
+    await this.page.goto(this.address);
+    await this.untilRunning();
+  }
+
+  untilRunning() {
+    return until('the game to start', () => this.page.evaluate(
+      () => typeof module !== 'undefined' && module !== null && document.title !== 'Gloomdeck'));
+  }
+
+  async stored() {
+    const text = await this.page.evaluate(key => localStorage.getItem(key), this.key);
+    return text === null ? null : new Saved(text);
+  }
+
+  // The records of this page as they would be kept now; none before there are any.
+  async now() {
+    const item = await this.page.evaluate(() => {
+      module.game.leave();
+      const files = module.game.files();
+      return files && Object.fromEntries(Object.entries(files).map(([name, bytes]) => [name, module.game.encode(bytes)]));
+    });
+    return item && new Saved(item);
+  }
+
+  // Until the picture stays the same; the records would tell more, but asking for them keeps them.
+  async settle() {
+    let last = '';
+    let since = Date.now();
+    await until('the picture to stay the same', async () => {
+      const picture = await this.page.evaluate(() => document.getElementById('screen').toDataURL());
+      if (picture !== last) since = Date.now();
+      last = picture;
+      return Date.now() - since > 400;
+    });
+  }
+
+  // Another game in the place of the kept one, for the next load.
+  async plant(saved) {
+    await this.page.evaluate(([key, text]) => {
+      module.game.halt();
+      localStorage.setItem(key, text);
+    }, [this.key, saved.text()]);
+  }
+
+  async at({ x, y }) {
+    const area = await this.page.locator('#screen').boundingBox();
+    return [area.x + (x + 0.5) * area.width / 408, area.y + (y + 0.5) * area.height / 488];
+  }
+
+  async click(where) { await this.page.mouse.click(...await this.at(where)); }
+  async tap(where) { await this.page.touchscreen.tap(...await this.at(where)); }
+  press(key) { return this.page.keyboard.press(key); }
+  title() { return this.page.title(); }
+  untilTitle(wanted) { return until(`the title '${wanted}'`, async () => await this.title() === wanted); }
+
+  async untilSaved(what, holds) {
+    let last = null;
+    await until(what, async () => (last = await this.now()) !== null && holds(last));
+    return last;
+  }
+
+  // Clicks come before keys that were typed earlier, so the name must be there; no name before was as long.
+  untilNamed(name) {
+    return until('the name', async () => [0xFFFF00, 0x696969].includes(await this.pixel(16 + 8 * name.length + 3, 182)));
+  }
+
+  // Past the title picture.
+  async passTitle(pass = () => this.press('Escape')) {
+    await this.untilRunning();
+    await until('the title picture', () => this.pixel(60, 60));
+    await pass();
+  }
+
+  // A single scenario, which has no story before it.
+  async startScenario() {
+    await this.passTitle();
+    await this.untilTitle('Select a game');
+    await this.click(place.scenarioTab);
+    await this.click(place.start);
+    await this.untilTitle('Gloomdeck 1.2');
+    await this.untilSaved('the board', saved => saved.screen === 2);
+  }
+
+  // What the game is kept as, and the play screen shows again.
+  async resume(saved) {
+    await this.plant(saved);
+    await this.load();
+    await this.passTitle();
+    await this.untilSaved('the board', now => now.screen === 2);
+  }
+
+  pixels(x, y, width, height) {
+    return this.page.evaluate(([left, top, w, h]) =>
+      [...document.getElementById('screen').getContext('2d').getImageData(left, top, w, h).data],
+    [x, y, width, height]);
+  }
+
+  // 0xRRGGBB of the frame.
+  async pixel(x, y) {
+    const [red, green, blue] = await this.pixels(x, y, 1, 1);
+    return red << 16 | green << 8 | blue;
+  }
+}
+
+// A screenshot's pixels: 8 bits, red, green, blue and maybe alpha.
+export function decodePng(png) {
+  const width = png.readUInt32BE(16);
+  const height = png.readUInt32BE(20);
+  const size = png[25] === 6 ? 4 : 3;
+  const parts = [];
+  for (let i = 8; i < png.length; i += 12 + png.readUInt32BE(i))
+    if (png.toString('latin1', i + 4, i + 8) === 'IDAT') parts.push(png.subarray(i + 8, i + 8 + png.readUInt32BE(i)));
+  const packed = inflateSync(Buffer.concat(parts));
+  const pitch = width * size;
+  const rows = Buffer.alloc(pitch * height);
+  for (let y = 0; y < height; ++y)
+    for (let x = 0; x < pitch; ++x) {
+      const left = x < size ? 0 : rows[y * pitch + x - size];
+      const up = y === 0 ? 0 : rows[(y - 1) * pitch + x];
+      const corner = x < size || y === 0 ? 0 : rows[(y - 1) * pitch + x - size];
+      rows[y * pitch + x] = packed[y * (pitch + 1) + 1 + x] + guess(packed[y * (pitch + 1)], left, up, corner);
+    }
+  return { at: (x, y) => rows[y * pitch + x * size] << 16 | rows[y * pitch + x * size + 1] << 8 | rows[y * pitch + x * size + 2] };
+}
+
+function guess(filter, left, up, corner) {
+  if (filter === 1) return left;
+  if (filter === 2) return up;
+  if (filter === 3) return left + up >> 1;
+  if (filter !== 4) return 0;
+  const sum = left + up - corner;
+  const [a, b, c] = [left, up, corner].map(value => Math.abs(sum - value));
+  if (a <= b && a <= c) return left;
+  return b <= c ? up : corner;
+}

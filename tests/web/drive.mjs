@@ -1,0 +1,63 @@
+#!/usr/bin/env node
+// Plays the page in Chromium: drive.mjs BUILD-FOLDER PAGE-FOLDER [PATTERN]. Prints `PASS name` or
+// `FAIL name: why` for each test, and its figures.
+import { spawn } from 'node:child_process';
+import { once } from 'node:events';
+import { mkdtempSync, mkdirSync, rmSync, symlinkSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { dirname, join, resolve } from 'node:path';
+import { fileURLToPath } from 'node:url';
+import { launch, Player } from './browser.mjs';
+import inputTests from './input.mjs';
+import keepingTests from './keeping.mjs';
+import pictureTests from './picture.mjs';
+import playTests from './play.mjs';
+
+const [, pageFolder, pattern = ''] = process.argv.slice(2);
+const here = dirname(fileURLToPath(import.meta.url));
+const scratch = mkdtempSync(join(tmpdir(), 'gloomdeck-web-'));
+
+// Below a sub-path, as on a host that serves other things too.
+async function serve() {
+  mkdirSync(join(scratch, 'games'));
+  symlinkSync(resolve(pageFolder), join(scratch, 'games', 'gloomdeck'));
+  const server = spawn('python3', [join(here, '../../scripts/serve.py'), scratch, '0'], { stdio: ['ignore', 'pipe', 'inherit'] });
+  const [said] = await once(server.stdout, 'data');
+  return { server, address: `${said.toString().trim()}games/gloomdeck/` };
+}
+
+// What a test gets: pages of its own browser context, which share their storage.
+async function openContext(browser, address, options = {}) {
+  const context = await browser.newContext({ viewport: { width: 1000, height: 900 }, ...options });
+  const players = [];
+  const open = async () => {
+    const player = new Player(await context.newPage(), address);
+    players.push(player);
+    await player.load();
+    return player;
+  };
+  return { context, open, players };
+}
+
+async function run(test, browser, address) {
+  const stage = await openContext(browser, address, test.options);
+  try {
+    await test.run({ ...stage, browser, address, pageFolder, scratch });
+    const faults = stage.players.flatMap(player => player.faults);
+    if (faults.length > 0) throw new Error(`the page complained: ${faults.join('; ')}`);
+    console.log(`PASS ${test.name}`);
+  } catch (error) {
+    console.log(`FAIL ${test.name}: ${error.message}`);
+    process.exitCode = 1;
+  } finally {
+    await stage.context.close();
+  }
+}
+
+const { server, address } = await serve();
+const browser = await launch();
+for (const test of [...playTests, ...keepingTests, ...inputTests, ...pictureTests])
+  if (test.name.includes(pattern)) await run(test, browser, address);
+await browser.close();
+server.kill();
+rmSync(scratch, { recursive: true });

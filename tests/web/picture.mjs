@@ -1,0 +1,96 @@
+// How the frame lies on the page, pixel for pixel, and that a page at rest rests.
+import assert from 'node:assert/strict';
+import { decodePng, launch, place, Player, until } from './browser.mjs';
+
+// Every pixel of the frame is a square of whole device pixels, as many as fit.
+async function checkPicture(player) {
+  const page = await player.page.evaluate(() => ({ width: innerWidth, height: innerHeight, ratio: devicePixelRatio }));
+  const scale = Math.floor(Math.min(page.width * page.ratio / 408, page.height * page.ratio / 488) + 0.001);
+  const area = await player.page.locator('#screen').boundingBox();
+  const [left, top, width] = [area.x, area.y, area.width].map(value => Math.round(value * page.ratio));
+  assert.equal(width, 408 * scale);
+  const shown = decodePng(await player.page.screenshot());
+  const frame = await player.pixels(0, 0, 408, 488);
+  let wrong = 0;
+  for (let y = 0; y < 488 * scale; ++y)
+    for (let x = 0; x < 408 * scale; ++x) {
+      const i = 4 * (408 * Math.floor(y / scale) + Math.floor(x / scale));
+      const wanted = frame[i] << 16 | frame[i + 1] << 8 | frame[i + 2];
+      if (shown.at(left + x, top + y) !== wanted) ++wrong;
+    }
+  assert.equal(wrong, 0, `pixels differ from the frame at ${page.width} x ${page.height}, density ${page.ratio}`);
+}
+
+// Each density in a browser of its own: one that is merely emulated rounds in another way.
+const displays = [
+  { density: 1, size: '1280,900' },
+  { density: 1, size: '1001,1090' },
+  { density: 1.5, size: '900,900' },
+  { density: 2, size: '1000,800' },
+  { density: 3, size: '500,850' },
+];
+
+async function crisp({ address }) {
+  for (const { density, size } of displays) {
+    const browser = await launch(`--force-device-scale-factor=${density}`, `--window-size=${size}`);
+    try {
+      const context = await browser.newContext({ viewport: null });
+      const player = new Player(await context.newPage(), address);
+      await player.load();
+      await player.startScenario();
+      await player.page.mouse.move(1, 1);
+      await player.settle();
+      await checkPicture(player);
+    } finally {
+      await browser.close();
+    }
+  }
+}
+
+async function resizing({ open }) {
+  const player = await open();
+  await player.startScenario();
+  await player.resume((await player.now()).fillWithGold());
+  for (const [width, height] of [[820, 990], [300, 320], [640, 500]]) {
+    const before = await player.now();
+    await player.page.setViewportSize({ width, height });
+    await until('the page to follow', async () => {
+      const area = await player.page.locator('#screen').boundingBox();
+      return area.width <= width && area.height <= height + 0.5;
+    });
+    await player.click(place.board(6));
+    const after = await player.untilSaved('the click', now => now.turns > before.turns);
+    assert.equal(after.drawn(6), before.drawn(6) + 1, `at ${width} x ${height}`);
+  }
+}
+
+async function rest({ open, context }) {
+  const player = await open();
+  await player.startScenario();
+  await player.page.evaluate(() => {
+    window.presents = 0;
+    const { putImageData } = CanvasRenderingContext2D.prototype;
+    CanvasRenderingContext2D.prototype.putImageData = function(...given) {
+      ++window.presents;
+      return putImageData.apply(this, given);
+    };
+  });
+  const devtools = await context.newCDPSession(player.page);
+  await devtools.send('Performance.enable');
+  const busy = async () => (await devtools.send('Performance.getMetrics')).metrics.find(one => one.name === 'TaskDuration').value;
+  await new Promise(resolve => setTimeout(resolve, 1000));
+  const start = { busy: await busy(), presents: await player.page.evaluate(() => window.presents) };
+  await new Promise(resolve => setTimeout(resolve, 2000));
+  const share = (await busy() - start.busy) / 2;
+  assert.equal(await player.page.evaluate(() => window.presents), start.presents, 'the same picture was shown again');
+  console.log(`at rest the page is busy for ${(100 * share).toFixed(2)} % of the time`);
+  assert.ok(share < 0.01, `busy for ${share} of the time`);
+  await player.page.mouse.move(...await player.at(place.board(2)));
+  await until('a new picture', () => player.page.evaluate(before => window.presents > before, start.presents));
+}
+
+export default [
+  { name: 'the picture is crisp at every density', run: crisp },
+  { name: 'the picture follows the window, and clicks follow it', run: resizing },
+  { name: 'a page at rest rests', run: rest },
+];
