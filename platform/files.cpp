@@ -45,24 +45,9 @@ bool isPlainFile(const std::string& name) {
     return fs::is_regular_file(status) || status.type() == fs::file_type::none;
 }
 
-bool isOutOfReach(const std::string& name) {
-    return !togetherIsClear && std::find(together.begin(), together.end(), name) != together.end();
-}
-
-}  // namespace
-
-std::string programFolder() { return host::programFolder(); }
-
-std::string nativePath(std::string path) {
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
-}
-
-bool fileExists(const std::string& path) { return isPlainFile(standing(resolved(path))); }
-
-std::optional<Bytes> fileContents(const std::string& path) {
-    if (!isPlainFile(nativePath(path))) return {};
-    const Descriptor file(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC));
+std::optional<Bytes> wholeFile(const std::string& name) {
+    if (!isPlainFile(name)) return {};
+    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
     if (file.number < 0) return {};
     Bytes contents;
     Bytes block(65536);
@@ -75,11 +60,30 @@ std::optional<Bytes> fileContents(const std::string& path) {
     }
 }
 
+bool isOutOfReach(const std::string& name) {
+    return !togetherIsClear && std::find(together.begin(), together.end(), name) != together.end();
+}
+
+}  // namespace
+
+std::string programFolder() { return host::programFolder(); }
+
+std::string nativePath(std::string path) {
+    const std::string folder = programFolder();
+    const auto own = static_cast<std::ptrdiff_t>(path.starts_with(folder) ? folder.size() : 0);
+    std::replace(path.begin() + own, path.end(), '\\', '/');
+    return path;
+}
+
+bool fileExists(const std::string& path) { return isPlainFile(standing(resolved(path))); }
+
+std::optional<Bytes> fileContents(const std::string& path) { return wholeFile(nativePath(path)); }
+
 File openFile(const std::string& path) {
     const std::string name = resolved(path);
     if (isOutOfReach(name)) return {};
     if (const std::string place = standing(name); isPlainFile(place)) {
-        std::optional<Bytes> contents = fileContents(place);
+        std::optional<Bytes> contents = wholeFile(place);
         if (!contents) {
             togetherIsClear = together.empty();
             return {};

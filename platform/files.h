@@ -17,7 +17,7 @@ std::string programFolder();
 /// True also where it cannot be told.
 bool fileExists(const std::string& path);
 
-/// The path as the system writes it.
+/// The path as the system writes it; the program's own folder may have "\" in its name.
 std::string nativePath(std::string path);
 
 /// The whole file; none when it is missing, no plain file, cannot be read, or larger than 64 MiB, which no

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <filesystem>
 
+#include "platform/host_script.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
@@ -48,6 +49,7 @@ struct FullDisk {
 TEST(Files, RecordsAreReplacedWholeAndKeepALongerFilesTail) {
     const std::string folder = makeProgramFolder();
     const std::string path = folder + "/Data/record.dat";
+    script::setFolder(folder);
     EXPECT_FALSE(fileExists(path) || fileExists(folder));
     writeFile(folder + "\\Data\\record.dat", "0123456789");
     writeFile(path, "abc");

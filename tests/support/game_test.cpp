@@ -64,7 +64,8 @@ void writePictures(const std::string& folder) {
 }
 
 std::string programFolder() {
-    return (std::filesystem::temp_directory_path() / "gloomdeck-").string() + std::to_string(getpid());
+    return (std::filesystem::temp_directory_path() / "a \\ and gloomd\u00E9ck-").string() +
+           std::to_string(getpid());
 }
 
 }  // namespace
