@@ -9,12 +9,12 @@
 #include "fuzz/fault.h"
 #include "fuzz/player.h"
 #include "platform/files.h"
+#include "platform/frame.h"
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
 #include "prefs/saved_data.h"
 #include "rules/game_state.h"
 #include "shell/main_loop.h"
-#include "shell/tile_set.h"
 #include "shell/ui_state.h"
 #include "tests/support/invariants.h"
 #include "tests/support/reset.h"
@@ -26,6 +26,7 @@ namespace {
 constexpr int mostLives = 4;
 constexpr int patience = 300;            // polls of a busy program, after which the player goes on
 constexpr long mostPollsToEnd = 100000;  // of a program that has been told to end
+constexpr int smallSide = 16;
 constexpr int mostCloses = 50;           // of a program at rest
 constexpr double brokenDisplay = 1.0e6;  // takes no second picture, which leaves more time to play
 
@@ -35,7 +36,7 @@ struct Life {
     int busyPolls = 0;  // since the player did something
     int closes = 0;
     long pollsToEnd = 0;
-    bool withTiles = true;
+    bool wholeFrame = true;
     bool sound = false;  // the records have kept all promises since the board was dealt
 };
 
@@ -70,7 +71,7 @@ void checkPromises() {
 }
 
 bool whenIdle(InputQueue& queue) {
-    if (!life.withTiles && !tileImages.front().pixels.empty()) freeTiles();
+    if (!life.wholeFrame && screen().width > smallSide) openWindow(smallSide, smallSide);
     checkPromises();
     if (ui.lockDepth != 0) fault("the screen is locked at rest");
     if (!isOver()) {
@@ -102,9 +103,9 @@ bool atPoll(InputQueue& queue) {
     return true;
 }
 
-void start(const ProgramFolder& folder, InputBytes& bytes, bool withTiles) {
+void start(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame) {
     forgetProgram();
-    life = {.bytes = &bytes, .next = {}, .withTiles = withTiles};
+    life = {.bytes = &bytes, .next = {}, .wholeFrame = wholeFrame};
     script::setFolder(folder.path);
     script::setFramePeriod(brokenDisplay);
     script::feedWhenIdle(whenIdle);
@@ -135,9 +136,9 @@ void checkEnd(const ProgramFolder& folder, const SavedFiles& before, int exitCod
     checkReading(folder);
 }
 
-void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool withTiles) {
+void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame) {
     const SavedFiles before = savedFiles(folder);
-    start(folder, bytes, withTiles);
+    start(folder, bytes, wholeFrame);
     try {
         runGloomdeck();
     } catch (const script::ProgramEnded& ended) {
@@ -152,10 +153,10 @@ void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool withTiles) {
 }  // namespace
 
 void playLives(const ProgramFolder& folder, InputBytes& bytes) {
-    const bool withTiles = bytes.below(8) == 1;
+    const bool wholeFrame = bytes.below(8) == 1;
     int lives = 0;
     do {
-        runOnce(folder, bytes, withTiles);
+        runOnce(folder, bytes, wholeFrame);
     } while (!bytes.empty() && ++lives < mostLives);
 }
 

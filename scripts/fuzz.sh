@@ -6,8 +6,9 @@ slowest=30  # seconds for one input, on a busy machine; they take some milliseco
 
 # try INPUT_OR_OPTION... of the target in $target; its folders are below what the program makes.
 try() {
-    TMPDIR="$fuzz_room" ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer-14 \
-        nice "$top/build/fuzz/fuzz/gloomdeck_fuzz_$target" -timeout="$slowest" -artifact_prefix="$finds/$target-" "$@"
+    TMPDIR="$fuzz_room" ASAN_OPTIONS=malloc_context_size=8 ASAN_SYMBOLIZER_PATH=/usr/bin/llvm-symbolizer-14 \
+        nice "$top/build/fuzz/fuzz/gloomdeck_fuzz_$target" -timeout="$slowest" \
+        -artifact_prefix="$finds/$target-" "$@"
 }
 
 # forget_mended: what was found before and does no harm any more.
@@ -33,7 +34,7 @@ report_target() {
         [ -f "$found" ] || continue
         left=1
         printf 'FAIL %s: %s; replay it with: build/fuzz/fuzz/gloomdeck_fuzz_%s %s\n' \
-            "$target" "$(grep -ohE -m1 '^fault: .*|runtime error: .*|^SUMMARY: .*' "$logs"/fuzz-*.log | head -n 1)" \
+            "$target" "$(grep -ohE -m1 '^fault: .*|runtime error: .*|Assertion .*|^SUMMARY: .*' "$logs"/fuzz-*.log | head -n 1)" \
             "$target" "${found#"$top"/}"
     done
     return $left
