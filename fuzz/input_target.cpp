@@ -12,6 +12,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz::dealGame(bytes);
         fuzz::putFiles(folder, fuzz::filesOfRecords());
     }
-    fuzz::playLives(folder, bytes);
+    fuzz::playLives(folder, bytes, fuzz::Records::sound);
     return 0;
 }

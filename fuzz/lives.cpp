@@ -37,7 +37,7 @@ struct Life {
     int closes = 0;
     long pollsToEnd = 0;
     bool wholeFrame = true;
-    bool sound = false;  // the records have kept all promises since the board was dealt
+    bool sound = false;  // from here on the records keep all promises
 };
 
 Life life;
@@ -103,9 +103,9 @@ bool atPoll(InputQueue& queue) {
     return true;
 }
 
-void start(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame) {
+void start(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame, bool sound) {
     forgetProgram();
-    life = {.bytes = &bytes, .next = {}, .wholeFrame = wholeFrame};
+    life = {.bytes = &bytes, .next = {}, .wholeFrame = wholeFrame, .sound = sound};
     script::setFolder(folder.path);
     script::setFramePeriod(brokenDisplay);
     script::feedWhenIdle(whenIdle);
@@ -136,9 +136,9 @@ void checkEnd(const ProgramFolder& folder, const SavedFiles& before, int exitCod
     checkReading(folder);
 }
 
-void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame) {
+void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame, bool sound) {
     const SavedFiles before = savedFiles(folder);
-    start(folder, bytes, wholeFrame);
+    start(folder, bytes, wholeFrame, sound);
     try {
         runGloomdeck();
     } catch (const script::ProgramEnded& ended) {
@@ -152,11 +152,11 @@ void runOnce(const ProgramFolder& folder, InputBytes& bytes, bool wholeFrame) {
 
 }  // namespace
 
-void playLives(const ProgramFolder& folder, InputBytes& bytes) {
+void playLives(const ProgramFolder& folder, InputBytes& bytes, Records records) {
     const bool wholeFrame = bytes.below(8) == 1;
     int lives = 0;
     do {
-        runOnce(folder, bytes, wholeFrame);
+        runOnce(folder, bytes, wholeFrame, records == Records::sound);
     } while (!bytes.empty() && ++lives < mostLives);
 }
 

@@ -90,6 +90,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::InputBytes bytes{{data, size}};
     fuzz::putFiles(folder, fuzz::chosenFiles(bytes));
     fuzz::leaveHalfDone(bytes, folder);
-    fuzz::playLives(folder, bytes);
+    fuzz::playLives(folder, bytes, fuzz::Records::damaged);
     return 0;
 }
