@@ -53,7 +53,7 @@ void shortenColumns(InputBytes& bytes) {
     const int above = bytes.byte();
     if (above >= 16) return;
     for (int col = 0; col < columnCount; ++col)
-        column(col).drawn = locationRow(column(col).location).deckLength - rowCount - 1 - above;
+        column(col).drawn = std::max(0, locationRow(column(col).location).deckLength - rowCount - 1 - above);
 }
 
 void setSwitches(InputBytes& bytes) {
