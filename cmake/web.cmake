@@ -15,7 +15,7 @@ target_link_options(gloomdeck PRIVATE
   -sASYNCIFY -sASYNCIFY_STACK_SIZE=16384
   -sASYNCIFY_IMPORTS=gloomdeckSleep,gloomdeckAwaitInput,gloomdeckBreathe,gloomdeckRest
   -sMODULARIZE -sEXPORT_NAME=createGloomdeck
-  -sENVIRONMENT=web
+  -sENVIRONMENT=web -sALLOW_MEMORY_GROWTH
   -sEXPORTED_FUNCTIONS=_main,_gloomdeckLeave
   --js-library ${web_library}
   --embed-file ${GLOOMDECK_GFX}@/gloomdeck/gfx)

@@ -6,6 +6,7 @@ const frame = { width: 408, height: 488 };
 const roomForWords = { beside: 330, below: 260 }; // CSS pixels
 const fileNames = ['DGDP.dat', 'DGDG.dat'];
 const fileSizes = [484, 52]; // bytes at least
+const largestFile = 65536; // bytes
 const fillKey = 'gloomdeck-page:' + location.pathname.replace(/index\.html$/, '');
 const typingMark = '\u00A0'; // stands in the field, so that a phone's Backspace has something to delete
 
@@ -36,24 +37,8 @@ function layOut(width, height) {
   const below = page.clientHeight - height;
   const isBeside = below < roomForWords.below && beside >= roomForWords.beside;
   document.body.classList.toggle('beside', isBeside);
+  document.body.classList.toggle('low', below < 90);
   document.body.classList.toggle('tight', !isBeside && below < 130);
-}
-
-// The fewest whole CSS pixels that make whole device pixels: 2 for a density of 1.5.
-function wholeStep() {
-  const isWhole = step => Math.abs(step * devicePixelRatio - Math.round(step * devicePixelRatio)) < 1e-6;
-  return [1, 2, 3, 4, 5, 8, 10, 20].find(isWhole) ?? 1;
-}
-
-// Off the device's pixels the browser would blur the picture's edges. A transform would move what is already
-// rounded, and fractions of a CSS pixel are rounded in their own way.
-function alignToDevicePixels() {
-  const step = wholeStep();
-  canvas.style.left = canvas.style.top = '0';
-  const place = canvas.getBoundingClientRect();
-  const off = value => Math.round(value / step) * step - value;
-  canvas.style.left = `${off(place.left + scrollX)}px`;
-  canvas.style.top = `${off(place.top + scrollY)}px`;
 }
 
 function fitPicture() {
@@ -68,7 +53,6 @@ function fitPicture() {
   at('size').hidden = largest / whole < 1.1;
   at('size').textContent = fills ? 'Sharpest picture' : 'Largest picture';
   layOut(width, height);
-  alignToDevicePixels();
 }
 
 function watchDensity() {
@@ -154,7 +138,8 @@ async function readTaken(list) {
     const file = [...list].find(one => one.name.toUpperCase().startsWith(name.slice(0, 4)));
     if (!file) throw new Error(`Choose both files together; ${name} is missing.`);
     files[name] = new Uint8Array(await file.arrayBuffer());
-    if (files[name].length < fileSizes[i]) throw new Error(`${file.name} is too short to be ours.`);
+    const size = files[name].length;
+    if (size < fileSizes[i] || size > largestFile) throw new Error(`${file.name} is too ${size < fileSizes[i] ? 'short' : 'long'} to be ours.`);
   }
   return files;
 }
