@@ -5,6 +5,7 @@
 
 #include "platform/font.h"
 #include "platform/frame.h"
+#include "platform/kernels.h"
 
 namespace gloomdeck {
 
@@ -27,7 +28,7 @@ void setPixel(int x, int y, Colour colour) {
 void fillClipped(const Rect& wanted, Colour colour) {
     const Rect r = intersection(wanted, clipRect());
     if (isEmpty(r)) return;
-    for (int y = r.y1; y <= r.y2; ++y) std::fill(rowAt(y) + r.x1, rowAt(y) + r.x2 + 1, colour);
+    fillRows(rowAt(r.y1) + r.x1, screen().width, r.x2 - r.x1 + 1, r.y2 - r.y1 + 1, colour);
     frameChanged({r.y1, r.y2});
 }
 
@@ -79,7 +80,9 @@ void setDefaultColours(Colour text, Colour background) {
 }
 
 void clearScreen() {
-    std::fill(screen().pixels.begin(), screen().pixels.end(), backgroundColour);
+    Image& frame = screen();
+    if (!frame.pixels.empty())
+        fillRows(frame.pixels.data(), frame.width, frame.width, frame.height, backgroundColour);
     frameChanged();
 }
 

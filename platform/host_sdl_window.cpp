@@ -15,6 +15,7 @@ namespace {
 
 constexpr double commonPeriod = 1.0 / 60.0;
 constexpr int slowestRate = 10;  // pictures a second; a display that claims less does not know
+constexpr int rowsAtOnce = 8;    // few enough for the nearest memory
 constexpr int bytesPerPixel = sizeof(Colour);
 
 SDL_Window* window = nullptr;
@@ -107,19 +108,47 @@ SDL_Rect asSdl(const Rect& r) { return {r.x1, r.y1, r.x2 - r.x1 + 1, r.y2 - r.y1
 
 Rows allRows() { return {0, frameSize.height - 1}; }
 
-// The whole window, black around the picture; or those rows of the frame alone.
-void paintSurface(Rows rows, bool whole) {
+Rect drawOn(const SDL_Surface* surface, const Rect& fit, Rows rows) {
+    auto* const area = static_cast<Colour*>(surface->pixels);
+    return drawFitted(frameSize, shownPixels.data(), rows, fit, area, surface->pitch / bytesPerPixel);
+}
+
+Rows changed(const Colour* pixels, Rows rows) {
+    return changedRows(frameSize, rows, shownPixels.data(), pixels);
+}
+
+void keepShown(const Colour* pixels, Rows rows) {
+    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
+    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shownPixels.begin() + start);
+}
+
+// The whole window, black around the picture.
+void paintSurface() {
     SDL_Surface* surface = writableSurface();
     if (!surface) return;
-    if (whole) SDL_FillRect(surface, nullptr, 0);
+    SDL_FillRect(surface, nullptr, 0);
+    drawOn(surface, fitFrame(frameSize, {surface->w, surface->h}), allRows());
+    SDL_UpdateWindowSurface(window);
+}
+
+// A few rows at a time are compared, kept and drawn, while they are near at hand; a picture that is made
+// smaller is drawn from all of them.
+void paintChange(const Colour* pixels, Rows rows) {
+    SDL_Surface* surface = writableSurface();
+    if (!surface) return keepShown(pixels, rows);
     const Rect fit = fitFrame(frameSize, {surface->w, surface->h});
-    auto* const area = static_cast<Colour*>(surface->pixels);
-    const SDL_Rect drawn =
-        asSdl(drawFitted(frameSize, shownPixels.data(), rows, fit, area, surface->pitch / bytesPerPixel));
-    if (whole)
-        SDL_UpdateWindowSurface(window);
-    else
-        SDL_UpdateWindowSurfaceRects(window, &drawn, 1);
+    const int step = fit.x2 - fit.x1 + 1 < frameSize.width ? frameSize.height : rowsAtOnce;
+    Rect drawn{fit.x1, fit.y2 + 1, fit.x2, fit.y1 - 1};
+    for (int first = rows.first; first <= rows.last; first += step) {
+        const Rows strip = changed(pixels, {first, std::min(first + step - 1, rows.last)});
+        if (strip.last < strip.first) continue;
+        keepShown(pixels, strip);
+        const Rect now = drawOn(surface, fit, strip);
+        drawn.y1 = std::min(drawn.y1, now.y1);
+        drawn.y2 = now.y2;
+    }
+    const SDL_Rect area = asSdl(drawn);
+    SDL_UpdateWindowSurfaceRects(window, &area, 1);
 }
 
 void paintRenderer() {
@@ -166,22 +195,19 @@ void titleDesktopWindow(const std::string& title) {
     if (window) SDL_SetWindowTitle(window, title.c_str());
 }
 
-void showFrame(const Colour* pixels, Rows changed) {
-    const Rows rows = changedRows(frameSize, changed, shownPixels.data(), pixels);
+void showFrame(const Colour* pixels, Rows drawn) {
+    const Rows rows = changed(pixels, drawn);
     if (rows.last < rows.first) return;
-    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
-    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shownPixels.begin() + start);
-    if (renderer)
-        paintRenderer();
-    else
-        paintSurface(rows, false);
+    if (!renderer) return paintChange(pixels, rows);
+    keepShown(pixels, rows);
+    paintRenderer();
 }
 
 void repaintWindow() {
     if (renderer)
         paintRenderer();
     else
-        paintSurface(allRows(), true);
+        paintSurface();
 }
 
 std::optional<Point> framePixelUnder(Point place) {

@@ -17,7 +17,7 @@ void closeDesktopWindow();
 void titleDesktopWindow(const std::string& title);
 
 /// Shows what a frame changes, in those rows, and keeps it for repaints.
-void showFrame(const Colour* pixels, Rows changed);
+void showFrame(const Colour* pixels, Rows drawn);
 
 /// Shows the kept frame (black before the first) and the black around it again.
 void repaintWindow();

@@ -48,57 +48,75 @@ struct Blend {
 };
 
 template <int size, typename Mix>
-[[gnu::always_inline]] inline void drawBlock(const Colour* to, const Colour* from, Colour* result, Mix mix) {
+[[gnu::always_inline]] inline void mixBlock(const Colour* to, const Colour* from, Mix mix,
+                                            typename Block<size>::Pixels& mixed) {
     typename Block<size>::Pixels d;
     typename Block<size>::Pixels s;
     std::memcpy(&d, to, size);
     std::memcpy(&s, from, size);
-    auto mixed = d;
+    mixed = d;
     mix.template mix<size>(mixed, s);
     mixed = (s & 0x00FFFFFF) == (transparentColour & 0x00FFFFFF) ? d : mixed;
-    std::memcpy(result, &mixed, size);
 }
 
 // The last block may overlap the one before it: it is mixed before anything is written, so that no pixel is
 // mixed twice.
 template <int size, typename Mix>
 [[gnu::always_inline]] inline void drawRow(Colour* to, const Colour* from, int width, Mix mix) {
-    constexpr int step = pixelsIn<size>;
-    const int end = width - step;
-    Colour last[step];
-    drawBlock<size>(to + end, from + end, last, mix);
-    for (int x = 0; x < end; x += step) drawBlock<size>(to + x, from + x, to + x, mix);
-    std::memcpy(to + end, last, size);
+    const int end = width - pixelsIn<size>;
+    typename Block<size>::Pixels last;
+    mixBlock<size>(to + end, from + end, mix, last);
+    for (int x = 0; x < end; x += pixelsIn<size>) {
+        typename Block<size>::Pixels mixed;
+        mixBlock<size>(to + x, from + x, mix, mixed);
+        std::memcpy(to + x, &mixed, size);
+    }
+    std::memcpy(to + end, &last, size);
 }
 
-// In blocks of that size, or of the largest that rows so narrow have room for.
+// In blocks of that size, or of the largest that rows so narrow have room for. The record is taken by value,
+// as otherwise every pixel that is written might be a part of it.
 template <int size, typename Mix>
-[[gnu::always_inline]] inline void drawRows(const PixelRows& rows, Mix mix) {
+[[gnu::always_inline]] inline void drawRows(PixelRows rows, Mix mix) {
     if constexpr (pixelsIn < size >> 1)
         if (rows.width < pixelsIn<size>) return drawRows<size / 2>(rows, mix);
-    Colour* to = rows.to;
-    const Colour* from = rows.from;
-    for (int y = 0; y < rows.height; ++y, to += rows.toStep, from += rows.fromStep)
-        drawRow<size>(to, from, rows.width, mix);
+    for (; rows.height > 0; --rows.height, rows.to += rows.toStep, rows.from += rows.fromStep)
+        drawRow<size>(rows.to, rows.from, rows.width, mix);
+}
+
+template <int size>
+[[gnu::always_inline]] inline void fillRow(Colour* to, int width,
+                                           const typename Block<size>::Pixels& colours) {
+    const int end = width - pixelsIn<size>;
+    for (int x = 0; x < end; x += pixelsIn<size>) std::memcpy(to + x, &colours, size);
+    std::memcpy(to + end, &colours, size);
+}
+
+template <int size>
+[[gnu::always_inline]] inline void fillRowsBy(Colour* to, int step, int width, int height, Colour colour) {
+    if constexpr (pixelsIn < size >> 1)
+        if (width < pixelsIn<size>) return fillRowsBy<size / 2>(to, step, width, height, colour);
+    const typename Block<size>::Pixels colours = typename Block<size>::Pixels{} + colour;
+    for (; height > 0; --height, to += step) fillRow<size>(to, width, colours);
 }
 
 constexpr int commonSize = 16;  // bytes
 
 #ifdef __x86_64__
+#define WIDE [[gnu::target("avx2")]]
 constexpr int wideSize = 32;
-
-[[gnu::target("avx2")]] void replaceWide(const PixelRows& rows) { drawRows<wideSize>(rows, Replace{}); }
-[[gnu::target("avx2")]] void blendWide(const PixelRows& rows, Blend blend) {
-    drawRows<wideSize>(rows, blend);
-}
-
 bool hasWideRegisters() { return static_cast<bool>(__builtin_cpu_supports("avx2")); }
 #else
-void replaceWide(const PixelRows& rows) { drawRows<commonSize>(rows, Replace{}); }
-void blendWide(const PixelRows& rows, Blend blend) { drawRows<commonSize>(rows, blend); }
-
+#define WIDE
+constexpr int wideSize = commonSize;
 bool hasWideRegisters() { return false; }
 #endif
+
+WIDE void replaceWide(const PixelRows& rows) { drawRows<wideSize>(rows, Replace{}); }
+WIDE void blendWide(const PixelRows& rows, Blend blend) { drawRows<wideSize>(rows, blend); }
+WIDE void fillWide(Colour* to, int step, int width, int height, Colour colour) {
+    fillRowsBy<wideSize>(to, step, width, height, colour);
+}
 
 bool isWide = hasWideRegisters();
 
@@ -121,6 +139,11 @@ void blendRows(const PixelRows& rows, int alpha) {
     const Blend blend{static_cast<std::uint16_t>(alpha)};
     if (isWide) return blendWide(rows, blend);
     drawRows<commonSize>(rows, blend);
+}
+
+void fillRows(Colour* to, int step, int width, int height, Colour colour) {
+    if (isWide) return fillWide(to, step, width, height, colour);
+    fillRowsBy<commonSize>(to, step, width, height, colour);
 }
 
 bool useWideRegisters(bool wanted) {

@@ -1,4 +1,4 @@
-// The three pixel loops under putImage, on the rows of a rectangle.
+// The pixel loops under images and boxes, on the rows of a rectangle.
 #pragma once
 
 #include "platform/colour.h"
@@ -25,8 +25,12 @@ void copyRowsTransparent(const PixelRows& rows);
 /// alpha is 0 to 255.
 void blendRows(const PixelRows& rows, int alpha);
 
-/// The last two use the processor's wide registers where it has some; false makes them do without, with the
-/// same pixels. Answers whether they are in use now.
+/// Gives every pixel of the rows the colour; rows start a step of pixels apart, width and height are at
+/// least 1.
+void fillRows(Colour* to, int step, int width, int height, Colour colour);
+
+/// All but the copy use the processor's wide registers where it has some; false makes them do without, with
+/// the same pixels. Answers whether they are in use now.
 bool useWideRegisters(bool wanted);
 
 }  // namespace gloomdeck

@@ -22,13 +22,35 @@ Extent shrunk(Extent frame, Extent area) {
     return {std::max(1, area.height * frame.width / frame.height), area.height};
 }
 
+// A constant scale is worth it: the row is then written in whole registers.
+template <int scale>
+void widenBy(const Colour* __restrict from, int count, Colour* __restrict to) {
+    for (int x = 0; x < count; ++x)
+        for (int copy = 0; copy < scale; ++copy) to[x * scale + copy] = from[x];
+}
+
+void widenRow(const Colour* from, int count, int scale, Colour* to) {
+    switch (scale) {
+        case 1: std::copy_n(from, count, to); return;
+        case 2: return widenBy<2>(from, count, to);
+        case 3: return widenBy<3>(from, count, to);
+        case 4: return widenBy<4>(from, count, to);
+        default:
+            for (int x = 0; x < count; ++x) std::fill_n(to + x * scale, scale, from[x]);
+    }
+}
+
 void enlarge(const Colour* pixels, Extent block, int scale, Colour* target, int pitch) {
-    const int width = block.width * scale;
-    for (int y = 0; y < block.height; ++y) {
-        Colour* const firstRow = target;
-        for (int x = 0; x < block.width; ++x) std::fill_n(firstRow + x * scale, scale, *pixels++);
+    if (scale == 1 && pitch == block.width) {
+        std::copy_n(pixels, block.width * block.height, target);
+        return;
+    }
+    for (int y = 0; y < block.height; ++y, pixels += block.width) {
+        const Colour* const firstRow = target;
+        widenRow(pixels, block.width, scale, target);
         target += pitch;
-        for (int copy = 1; copy < scale; ++copy, target += pitch) std::copy_n(firstRow, width, target);
+        for (int copy = 1; copy < scale; ++copy, target += pitch)
+            std::copy_n(firstRow, block.width * scale, target);
     }
 }
 

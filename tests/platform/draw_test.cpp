@@ -151,6 +151,9 @@ TEST(Kernels, RowsOfAnyWidthAreDrawnOnceAndNothingBesideThem) {
             copyRowsTransparent({once.data(), step, from.data(), step, width, 2});
             for (const int start : {0, step}) std::fill_n(expected.begin() + start, width, 0xFF808080);
             EXPECT_EQ(once, expected) << width;
+            fillRows(once.data(), step, width, 2, ink);
+            for (const int start : {0, step}) std::fill_n(expected.begin() + start, width, ink);
+            EXPECT_EQ(once, expected) << width;
         }
     useWideRegisters(true);
 }
