@@ -11,7 +11,7 @@ our_sources() {
 # prepare_lint: a build folder of its own, since clang reads none of the compiler's precompiled headers.
 prepare_lint() {
     local folder="$top/build/lint"
-    (cd "$top" && cmake --preset debug -B "$folder" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON &&
+    (cd "$top" && cmake --preset debug -B "$folder" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DGLOOMDECK_BENCH=ON &&
         cmake --build "$folder" --target window_icon_baked) >&2 || die "build/lint could not be made (see above)"
 }
 
