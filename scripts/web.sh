@@ -2,6 +2,7 @@
 
 web_packages=(emscripten python3)
 web_test_packages=(chromium)
+web_toolchain=/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake
 
 # page_version: short, and another one as soon as anything that the page loads is another.
 page_version() { cat "$top"/page/* "$top"/build/web/gloomdeck.{js,wasm} | sha256sum | cut -c 1-10; }
@@ -22,6 +23,7 @@ stage_page() {
 
 # build_web: the pictures are painted here, since the browser's build makes only what runs in a browser.
 build_web() {
+    [ -f "$web_toolchain" ] || die "$web_toolchain is missing; Debian's package emscripten has it"
     build release gfx
     # Where node is not Debian's, it finds Debian's libraries by this alone.
     NODE_PATH="/usr/share/nodejs${NODE_PATH:+:$NODE_PATH}" build web

@@ -183,16 +183,22 @@ export class Player {
     await this.untilSaved('the board', now => now.screen === 2);
   }
 
-  pixels(x, y, width, height) {
+  // A part of the frame, to compare with itself.
+  look(x, y, width, height) {
     return this.page.evaluate(([left, top, w, h]) =>
-      [...document.getElementById('screen').getContext('2d').getImageData(left, top, w, h).data],
+      document.getElementById('screen').getContext('2d').getImageData(left, top, w, h).data.join(),
     [x, y, width, height]);
   }
 
   // 0xRRGGBB of the frame.
   async pixel(x, y) {
-    const [red, green, blue] = await this.pixels(x, y, 1, 1);
+    const [red, green, blue] = (await this.look(x, y, 1, 1)).split(',').map(Number);
     return red << 16 | green << 8 | blue;
+  }
+
+  async frame() {
+    const url = await this.page.evaluate(() => document.getElementById('screen').toDataURL());
+    return decodePng(Buffer.from(url.split(',')[1], 'base64'));
   }
 }
 

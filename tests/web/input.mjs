@@ -24,7 +24,7 @@ async function pressesThatAreNoClicks({ open }) {
   await player.resume((await player.now()).fillWithGold());
   const { mouse } = player.page;
   const before = await player.now();
-  const look = async () => (await player.pixels(40, 232, 32, 32)).join();
+  const look = () => player.look(40, 232, 32, 32);
   const untouched = await look();
   await mouse.move(...await player.at(place.board(1)));
   await mouse.down();
@@ -84,7 +84,7 @@ async function fingers({ open, context }) {
   assert.equal(saved.hero, 'Mira Stone');
   await player.resume(saved.fillWithGold());
   const [x, y] = await player.at(place.board(3));
-  const info = async () => (await player.pixels(8, 402, 390, 50)).join();
+  const info = () => player.look(8, 402, 390, 50);
   const silent = await info();
   await devtools.send('Input.dispatchTouchEvent', { type: 'touchStart', touchPoints: [{ x, y }] });
   await until('the description', async () => await info() !== silent);

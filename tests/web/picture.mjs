@@ -10,21 +10,17 @@ async function checkPicture(player) {
   const [left, top, width] = [area.x, area.y, area.width].map(value => Math.round(value * page.ratio));
   assert.equal(width, 408 * scale);
   const shown = decodePng(await player.page.screenshot());
-  const frame = await player.pixels(0, 0, 408, 488);
+  const frame = await player.frame();
   let wrong = 0;
   for (let y = 0; y < 488 * scale; ++y)
-    for (let x = 0; x < 408 * scale; ++x) {
-      const i = 4 * (408 * Math.floor(y / scale) + Math.floor(x / scale));
-      const wanted = frame[i] << 16 | frame[i + 1] << 8 | frame[i + 2];
-      if (shown.at(left + x, top + y) !== wanted) ++wrong;
-    }
+    for (let x = 0; x < 408 * scale; ++x)
+      if (shown.at(left + x, top + y) !== frame.at(Math.floor(x / scale), Math.floor(y / scale))) ++wrong;
   assert.equal(wrong, 0, `pixels differ from the frame at ${page.width} x ${page.height}, density ${page.ratio}`);
 }
 
 // Each density in a browser of its own: one that is merely emulated rounds in another way.
 const displays = [
   { density: 1, size: '1280,900' },
-  { density: 1, size: '1001,1090' },
   { density: 1.5, size: '900,900' },
   { density: 2, size: '1000,800' },
   { density: 3, size: '500,850' },
