@@ -97,7 +97,7 @@ function noteStorage(works) {
 }
 
 function showEnd() {
-  at('kept').textContent = storageWorks ? 'It is kept, and goes on where you left it.' : 'It lasts as long as this page.';
+  say('kept', storageWorks ? 'It is kept, and goes on where you left it.' : 'It lasts as long as this page.');
   at('ended').hidden = false;
   at('again').focus();
 }
@@ -138,8 +138,9 @@ async function readTaken(list) {
     const file = [...list].find(one => one.name.toUpperCase().startsWith(name.slice(0, 4)));
     if (!file) throw new Error(`Choose both files together; ${name} is missing.`);
     files[name] = new Uint8Array(await file.arrayBuffer());
-    const size = files[name].length;
-    if (size < fileSizes[i] || size > largestFile) throw new Error(`${file.name} is too ${size < fileSizes[i] ? 'short' : 'long'} to be ours.`);
+    const { length } = files[name];
+    if (length < fileSizes[i] || length > largestFile)
+      throw new Error(`${file.name} is not ours: it has ${length} bytes.`);
   }
   return files;
 }

@@ -1,7 +1,6 @@
 // The host of the browser page: what the game asks of it, over the functions of host_web.js. Waits put the
 // game's stack aside, so that the browser can do its own work meanwhile.
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>

@@ -220,7 +220,8 @@ export function decodePng(png) {
       const corner = x < size || y === 0 ? 0 : rows[(y - 1) * pitch + x - size];
       rows[y * pitch + x] = packed[y * (pitch + 1) + 1 + x] + guess(packed[y * (pitch + 1)], left, up, corner);
     }
-  return { at: (x, y) => rows[y * pitch + x * size] << 16 | rows[y * pitch + x * size + 1] << 8 | rows[y * pitch + x * size + 2] };
+  const channel = (x, y, index) => rows[y * pitch + x * size + index];
+  return { at: (x, y) => channel(x, y, 0) << 16 | channel(x, y, 1) << 8 | channel(x, y, 2) };
 }
 
 function guess(filter, left, up, corner) {

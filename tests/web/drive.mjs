@@ -21,9 +21,11 @@ const scratch = mkdtempSync(join(tmpdir(), 'gloomdeck-web-'));
 async function serve() {
   mkdirSync(join(scratch, 'games'));
   symlinkSync(resolve(pageFolder), join(scratch, 'games', 'gloomdeck'));
-  const server = spawn('python3', [join(here, '../../scripts/serve.py'), scratch, '0'], { stdio: ['ignore', 'pipe', 'inherit'] });
+  const serving = [join(here, '../../scripts/serve.py'), scratch, '0'];
+  const server = spawn('python3', serving, { stdio: ['ignore', 'pipe', 'inherit'] });
+  process.on('exit', () => server.kill());
   const [said] = await once(server.stdout, 'data');
-  return { server, address: `${said.toString().trim()}games/gloomdeck/` };
+  return `${said.toString().trim()}games/gloomdeck/`;
 }
 
 // What a test gets: pages of its own browser context, which share their storage.
@@ -54,10 +56,11 @@ async function run(test, browser, address) {
   }
 }
 
-const { server, address } = await serve();
+process.on('exit', () => rmSync(scratch, { recursive: true }));
+process.on('SIGTERM', () => process.exit(1));
+const address = await serve();
 const browser = await launch();
 for (const test of [...playTests, ...keepingTests, ...inputTests, ...pictureTests])
   if (test.name.includes(pattern)) await run(test, browser, address);
 await browser.close();
-server.kill();
-rmSync(scratch, { recursive: true });
+process.exit();

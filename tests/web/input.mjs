@@ -99,9 +99,11 @@ async function fingers({ open, context }) {
   await until('the board again', async () => await player.pixel(124, 210) !== 0x708090);
 }
 
+const phone = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true };
+
 export default [
   { name: 'of 100 fast clicks none is lost', run: fastClicks },
   { name: 'presses that are no clicks', run: pressesThatAreNoClicks },
   { name: 'keys that are the browser\'s, and keys that are not', run: keysOfTheBrowser },
-  { name: 'fingers tap, read and type', run: fingers, options: { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true } },
+  { name: 'fingers tap, read and type', run: fingers, options: phone },
 ];
