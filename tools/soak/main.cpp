@@ -28,7 +28,7 @@ constexpr double displayPeriod = 1.0 / 60;
 constexpr double brokenDisplay = 1.0e6;  // takes next to no picture, which leaves more time to play
 
 constexpr long page = 4096;            // bytes
-constexpr long mostGrowth = 2L << 20;  // bytes, from a tenth of the events on
+constexpr long mostGrowth = 8L << 20;  // bytes, from a tenth of the events on; sanitizers keep books
 
 struct Options {
     double seconds = 10;
