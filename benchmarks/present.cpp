@@ -11,6 +11,7 @@
 
 #include "benchmarks/session.h"
 #include "platform/frame.h"
+#include "platform/host_script.h"
 #include "platform/host_sdl_window.h"
 
 namespace gloomdeck {
@@ -25,13 +26,18 @@ constexpr int shownMoves = 4;  // in turn; more would measure how far away their
 SDL_Window* ourWindow = nullptr;
 SDL_Window* bareWindow = nullptr;
 
-using Frames = std::vector<std::vector<Colour>>;
+// A picture, and the rows that the game names as changed after the one before it.
+struct Frame {
+    std::vector<Colour> pixels;
+    Rows changed{0, frameHeight - 1};
+};
+using Frames = std::vector<Frame>;
 
 Frames framesThatDifferEverywhere() {
     Frames frames(2);
     for (Colour i = 0; i < pixelCount; ++i) {
-        frames[0].push_back(0xFF000000 | i * 97);
-        frames[1].push_back(frames[0].back() ^ 0x00FFFFFF);
+        frames[0].pixels.push_back(0xFF000000 | i * 97);
+        frames[1].pixels.push_back(frames[0].pixels.back() ^ 0x00FFFFFF);
     }
     return frames;
 }
@@ -40,10 +46,16 @@ Frames framesOfGame() {
     Frames frames;
     startGame(1, 1);  // a long one
     for (int move = 0; move < middle; ++move) playMove();
+    showFrameNow();
+    script::takePresentedRows();
+    Rows all;
     for (int move = 0; move < shownMoves; ++move) {
         playMove();
-        frames.push_back(screen().pixels);
+        showFrameNow();
+        frames.push_back({screen().pixels, script::takePresentedRows()});
+        all = joined(all, frames.back().changed);
     }
+    frames.front().changed = all;  // it comes after the last one
     return frames;
 }
 
@@ -76,20 +88,19 @@ void presentBarely(benchmark::State& state, const Frames& frames) {
     std::size_t next = 0;
     while (state.KeepRunning()) {
         const SDL_Surface* surface = SDL_GetWindowSurface(bareWindow);
-        enlargeBarely<scale>(frames[next].data(), static_cast<Colour*>(surface->pixels),
+        enlargeBarely<scale>(frames[next].pixels.data(), static_cast<Colour*>(surface->pixels),
                              surface->pitch / static_cast<int>(sizeof(Colour)));
         SDL_UpdateWindowSurface(bareWindow);
         next = next + 1 < frames.size() ? next + 1 : 0;
     }
 }
 
-// Every row is offered as changed, as after drawing the whole screen.
 void presentOurs(benchmark::State& state, const Frames& frames, int scale) {
     if (!resize(ourWindow, scale)) return state.SkipWithError("the window has another size");
-    host::showFrame(frames.back().data(), {0, frameHeight - 1});
+    host::showFrame(frames.back().pixels.data(), {0, frameHeight - 1});
     std::size_t next = 0;
     while (state.KeepRunning()) {
-        host::showFrame(frames[next].data(), {0, frameHeight - 1});
+        host::showFrame(frames[next].pixels.data(), frames[next].changed);
         next = next + 1 < frames.size() ? next + 1 : 0;
     }
 }

@@ -14,6 +14,7 @@ struct ScriptHost {
     double clock = 1000.0;
     double framePeriod = 0.0;
     long presents = 0;
+    Rows presented;  // since they were taken last
     long slept = 0;
     int dryWaits = 0;
     std::size_t framePixels = 0;
@@ -43,6 +44,8 @@ void setFolder(const std::string& folder) { state.folder = folder; }
 void setFramePeriod(double seconds) { state.framePeriod = seconds; }
 const std::vector<Colour>& shownFrame() { return state.shown; }
 long presentCount() { return state.presents; }
+
+Rows takePresentedRows() { return std::exchange(state.presented, Rows{}); }
 const std::string& windowTitle() { return state.title; }
 long sleptMilliseconds() { return state.slept; }
 void loseWindow() {
@@ -60,9 +63,10 @@ void open(int width, int height) {
 
 void setTitle(const std::string& title) { state.title = title; }
 
-void present(const Colour* pixels, Rows /*changed*/) {
+void present(const Colour* pixels, Rows changed) {
     state.shown.assign(pixels, pixels + state.framePixels);
     ++state.presents;
+    state.presented = joined(state.presented, changed);
 }
 
 double framePeriod() { return state.framePeriod; }

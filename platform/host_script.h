@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/colour.h"
+#include "platform/geometry.h"
 #include "platform/input_queue.h"
 
 namespace gloomdeck::script {
@@ -45,6 +46,9 @@ void setFramePeriod(double seconds);
 const std::vector<Colour>& shownFrame();
 long presentCount();
 const std::string& windowTitle();
+
+/// The rows that the presents since the last call have named as changed, from the first to the last.
+Rows takePresentedRows();
 
 /// Milliseconds that animations have paused.
 long sleptMilliseconds();
