@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -114,8 +115,9 @@ void renameOthers(const std::vector<NewContents>& files) {
 }
 
 std::vector<std::string> namesOf(const std::vector<NewContents>& files) {
-    std::vector<std::string> names;
-    for (const NewContents& file : files) names.push_back(file.name);
+    std::vector<std::string> names(files.size());
+    std::transform(files.begin(), files.end(), names.begin(),
+                   [](const NewContents& file) { return file.name; });
     return names;
 }
 
