@@ -19,6 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t largestFile = std::size_t{64} << 20;
+
 // What a FilesTogether holds.
 std::vector<std::string> together;
 std::vector<NewContents> closedTogether;
@@ -46,7 +47,6 @@ bool isPlainFile(const std::string& name) {
 }
 
 std::optional<Bytes> wholeFile(const std::string& name) {
-    if (!isPlainFile(name)) return {};
     const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
     if (file.number < 0) return {};
     Bytes contents;
@@ -77,7 +77,10 @@ std::string nativePath(std::string path) {
 
 bool fileExists(const std::string& path) { return isPlainFile(standing(resolved(path))); }
 
-std::optional<Bytes> fileContents(const std::string& path) { return wholeFile(nativePath(path)); }
+std::optional<Bytes> fileContents(const std::string& path) {
+    const std::string name = nativePath(path);
+    return isPlainFile(name) ? wholeFile(name) : std::nullopt;
+}
 
 File openFile(const std::string& path) {
     const std::string name = resolved(path);
@@ -126,6 +129,7 @@ FilesTogether::FilesTogether(const std::vector<std::string>& paths)
     : lock(fs::path(nativePath(paths.at(0))).parent_path().string()) {
     for (const std::string& path : paths) together.push_back(resolved(path));
     togetherIsClear = settleFiles(together);
+    // What settling has put in its place can be resolved only now.
     std::transform(paths.begin(), paths.end(), together.begin(), resolved);
 }
 

@@ -1,4 +1,4 @@
-# Runs the fuzzers and says what they found. Sourced by ./check.
+# Runs the fuzzers and says what they found. Sourced by ./check, after run_tests.sh.
 
 fuzz_targets=(bitmap saved input)
 fuzz_programs=("${fuzz_targets[@]/#/gloomdeck_fuzz_}")
@@ -66,6 +66,5 @@ fuzz_all() {
     fuzz_room="$(mktemp -d -p "$memory")" || die "no temporary folder can be made"
     trap 'rm -rf "$fuzz_room"' EXIT
     for target in "${fuzz_targets[@]}"; do fuzz_target "$1"; done
-    printf '%d passed, %d failed\n' "$passed" "$failed"
-    [ "$failed" = 0 ]
+    print_counts
 }

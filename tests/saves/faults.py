@@ -3,7 +3,7 @@
 import re
 from concurrent.futures import ThreadPoolExecutor
 
-from probe import GAME, NEW, OLD, PREFS, PROBE, Folder, Fault, check, pair, probe, record, run
+from probe import GAME, NEW, OLD, PREFS, PROBE, Folder, Fault, check, probe, record, run
 
 ERRORS = {"EIO": None, "ENOSPC": {"openat", "write", "fsync", "rename"}, "EINTR": {"openat", "read", "write", "fsync"}}
 MEMORY = "mmap", "munmap", "madvise", "brk"  # the program may give up where there is no memory
@@ -32,7 +32,7 @@ def can_happen(name, how):
 
 
 def struck(files, words, call, how):
-    """What a process leaves behind whose call is struck so, and its exit code."""
+    """What a process leaves behind whose call is struck so."""
     name, before = call
     with Folder(files) as folder:
         command, *more = words

@@ -6,7 +6,10 @@ import subprocess
 import sys
 import tempfile
 
-BUILD = pathlib.Path(sys.argv[1]).resolve()
+sys.path[:0] = [str(pathlib.Path(__file__).parent.parent / "window")]
+
+from driver import BUILD, Fault, check
+
 PROBE = BUILD / "tools" / "save_probe" / "gloomdeck_save_probe"
 LIMIT = 60  # seconds that anything may take
 
@@ -14,15 +17,6 @@ GAME, PREFS = "DGDP.dat", "DGDG.dat"
 SIZES = {GAME: 484, PREFS: 52}
 TAIL = b"what stands behind a record stays"
 OLD, NEW = 1, 2
-
-
-class Fault(Exception):
-    pass
-
-
-def check(right, what):
-    if not right:
-        raise Fault(what)
 
 
 def record(name, byte):
