@@ -1,5 +1,6 @@
 #include "platform/host_script.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/host.h"
@@ -17,7 +18,7 @@ struct ScriptHost {
     Rows presented;  // since they were taken last
     long slept = 0;
     int dryWaits = 0;
-    std::size_t framePixels = 0;
+    int frameWidth = 0;
     std::string folder = ".";
     std::string title;
     std::vector<Colour> shown;
@@ -58,13 +59,17 @@ void reset() { state = {}; }
 namespace host {
 
 void open(int width, int height) {
-    state.framePixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    state.frameWidth = width;
+    state.shown.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
 }
 
 void setTitle(const std::string& title) { state.title = title; }
 
 void present(const Colour* pixels, Rows changed) {
-    state.shown.assign(pixels, pixels + state.framePixels);
+    // Only what was named: a row that changed unnamed stays old, and the tests see it.
+    const auto width = static_cast<std::ptrdiff_t>(state.frameWidth);
+    std::copy(pixels + width * changed.first, pixels + width * (changed.last + 1),
+              state.shown.begin() + width * changed.first);
     ++state.presents;
     state.presented = joined(state.presented, changed);
 }

@@ -53,10 +53,6 @@ class GameTest : public ::testing::Test {
 
 Colour pixelAt(int x, int y);  ///< of the frame
 
-/// Compares the frame with tests/play/golden/NAME.txt; where they differ NAME.actual.bmp shows what was
-/// drawn. GLOOMDECK_REFRESH_GOLDEN=1 in the environment writes it anew.
-void expectGoldenFrame(const std::string& name);
-
 /// True when the pixels of the text's glyphs, and no others of its cells, have the colour of the ink.
 bool textStandsAt(int x, int y, std::string_view text, Colour ink);
 

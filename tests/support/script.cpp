@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "content/locations.h"
+#include "platform/frame.h"
 #include "shell/layout.h"
 #include "shell/main_loop.h"
 #include "shell/places.h"
@@ -15,7 +16,11 @@ namespace {
 
 std::deque<Script::Step> pending;
 
+// Presents name the rows that changed, and no others are shown: one that was not named stays as it was.
+bool isShownAsDrawn() { return ui.lockDepth != 0 || script::shownFrame() == screen().pixels; }
+
 bool handOut(InputQueue& queue) {
+    EXPECT_TRUE(isShownAsDrawn());
     if (pending.empty()) return false;
     const Script::Step step = pending.front();
     pending.pop_front();

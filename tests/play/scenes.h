@@ -1,0 +1,31 @@
+// The scenes of the signature: every screen, every state of it, every animation.
+#pragma once
+#include "tests/support/signature.h"
+
+namespace gloomdeck {
+
+/// Presses there and lets go where nothing is; what was pressed comes back as it was.
+void holdAndLetGo(StagedPlay& play, Point at);
+
+/// The same on every widget that the screen tests.
+void holdEveryWidget(StagedPlay& play, int screenId);
+
+/// Begins a step on the play screen: a hero with twenty of everything, an empty board of seven terrains in
+/// its second turn at normal speed, and what prepare changes of that, drawn afresh.
+void scene(StagedPlay& play, const std::string& name, const std::function<void()>& prepare);
+
+// From the title of a first start into a game.
+void playTitleAndSelection(StagedPlay& play);
+
+// From the play screen and back to it.
+void playPreferences(StagedPlay& play);
+void playTraining(StagedPlay& play);
+void playHelp(StagedPlay& play);
+void playQuestions(StagedPlay& play);
+void playStories(StagedPlay& play);
+void playPieces(StagedPlay& play);      // hovers, presses, modes, messages, banners
+void playEncounters(StagedPlay& play);  // every tile met, and a few turns after it
+void playSpells(StagedPlay& play);
+void playAutoplayer(StagedPlay& play);
+
+}  // namespace gloomdeck
