@@ -18,6 +18,7 @@ int confirm(const std::string& question, int skip) {
     dropPress();
     const bool yes = skip == 1 || askYesNo(question, "confirm");
     dropKeys();
+    startScreenPress();  // a press that began in the question was the question's
     return yes ? 1 : 0;
 }
 

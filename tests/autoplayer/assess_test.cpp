@@ -167,8 +167,9 @@ TEST_F(AutoplayerTest, GoodStuffIsLeftAloneWhileAPowerIsWastedOnIt) {
 }
 
 TEST_F(AutoplayerTest, DamageIsReducedByDeflectionThenByToughnessAndTwiceIfExpected) {
-    const std::array<int, 4> shields[] = {
-        {0, 0, -4, 0}, {15, 0, 60, 58}, {15, 0, 61, 60}, {25, 2, 5, 0}, {25, 2, 20, 4}};
+    const std::array<int, 4> shields[] = {{0, 0, -4, 0},   {0, 0, 1, 1},  {0, 1, 4, 1},
+                                          {0, 1, 5, 2},    {5, 0, 1, 0},  {15, 0, 60, 58},
+                                          {15, 0, 61, 60}, {25, 2, 5, 0}, {25, 2, 20, 4}};
     for (const auto& [tough, deflected, damage, left] : shields) {
         level(toughness) = tough;
         turnsLeft(deflection) = deflected;

@@ -67,6 +67,11 @@ TEST_F(SelectionTest, TheMouseChoosesTabsAndRowsAndStartsTheGame) {
     EXPECT_EQ(game.campaign, 1);
 }
 
+TEST_F(SelectionTest, ATabThatAnArrowChoseStaysAtTheNextClickOnARow) {
+    play(Script().key(keycode::right).click(listRow(3)).then(headed("Ruins")).key("\r"));
+    EXPECT_EQ(std::pair(prefs.campaignChoice, prefs.scenarioChoice), std::pair(none, 3));
+}
+
 TEST_F(SelectionTest, ANameMayBeEmptyAndIsTypedUpToSeventeenCharacters) {
     play(Script().type("\b\b\b\b\b\b\b\b\b\b").key("\r"));
     EXPECT_EQ(prefs.heroName, (std::array<char, 21>{}));

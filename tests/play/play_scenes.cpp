@@ -29,8 +29,8 @@ void endings() {
 
 void boost(int percent) { game.skills = {0, 0, percent, percent, percent, 0}; }
 
-// A point on the board that stands still for the eye: nothing hovers in the step after it.
-void click(StagedPlay& play, Point at) { play.click(at).leave(); }
+// Nothing is hovered after it.
+void click(StagedPlay& play, Point at) { play.click(at).move(nothing); }
 
 void aimAt(StagedPlay& play, int item, Point at) {
     click(play, statsCell(item));
@@ -48,7 +48,7 @@ void playPieces(StagedPlay& play) {
     });
     for (int i = 0; i < columnCount * rowCount; ++i) play.move(boardCell(i % columnCount, i / columnCount));
     for (int item = 0; item < itemCount; ++item) play.move(statsCell(item));
-    play.move(boardCell(3, 3)).leave().move(statsCell(gold)).leave();
+    play.move(boardCell(3, 3)).move(nothing).move(statsCell(gold)).leave();
     for (const int item : {lightningBolts, bombs, hands}) {
         scene(play, "aimed with item " + std::to_string(item), everyCode);
         click(play, statsCell(item));

@@ -4,6 +4,9 @@
 
 namespace gloomdeck {
 
+/// A place where no screen has anything.
+inline constexpr Point nothing{404, 300};
+
 /// Presses there and lets go where nothing is; what was pressed comes back as it was.
 void holdAndLetGo(StagedPlay& play, Point at);
 

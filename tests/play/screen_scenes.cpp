@@ -65,7 +65,7 @@ void playHelp(StagedPlay& play) {
     play.key("H").key(keycode::left);
     for (int page = 0; page < help_page::count; ++page) {
         play.step("help page " + std::string(helpPageLabels[static_cast<std::size_t>(page)]));
-        play.click({40, 28 + 16 * page}).leave();
+        play.click({40, 28 + 16 * page}).move(nothing);
         for (int entry = 1; entry < helpEntryCount(page); ++entry) play.key(keycode::right);
         play.button(id::next).button(id::prev);
         play.step("help page " + std::to_string(page) + ", all held");

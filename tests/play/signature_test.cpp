@@ -6,24 +6,18 @@
 
 namespace gloomdeck {
 
-namespace {
-
-constexpr Point nothing{404, 300};
-
-}  // namespace
-
-void holdAndLetGo(StagedPlay& play, Point at) { play.press(at).release(nothing).leave(); }
+void holdAndLetGo(StagedPlay& play, Point at) { play.press(at).release(nothing); }
 
 void holdEveryWidget(StagedPlay& play, int screenId) {
     for (const int widgetId : pressOrder(screenId)) {
         if (widgetId == id::stats) continue;  // counts wherever it is let go
         play.then([=](InputQueue& queue) { pointAt(queue, widgetCentre(widgetId), {true}); });
-        play.release(nothing).leave();
+        play.release(nothing);
     }
 }
 
 void scene(StagedPlay& play, const std::string& name, const std::function<void()>& prepare) {
-    play.leave();
+    play.move(nothing);
     play.step(name).check([=] {
         resetCatalogue();
         clearMessages();

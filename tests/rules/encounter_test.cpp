@@ -36,6 +36,11 @@ TEST_F(EncounterTest, ARefusalSpendsNothingAndSaysWhy) {
     EXPECT_FALSE(ui.messagePosted);
     EXPECT_EQ(meet(enc::Trap, {{20, 20}, noToughness, doorDealt}), 1);
     EXPECT_EQ(count(health), -20) << "a trap asks for no health";
+    turnsLeft(deflection) = 1;
+    EXPECT_EQ(meet(enc::Trap, {{20, 1}, doorDealt}), 1);
+    EXPECT_EQ(newestMessage(), "Deflection stops all damage.");
+    EXPECT_EQ(meet(enc::Trap, {{20, 2}, noToughness, doorDealt}), 1);
+    EXPECT_EQ(count(health), -21);
 }
 
 TEST_F(EncounterTest, WhatIsPaidForChangesTheHeroByWhatItRollsInOrder) {

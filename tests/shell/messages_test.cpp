@@ -1,11 +1,13 @@
 // The message bar, the game speed, and waiting for the player.
 #include "platform/clock.h"
+#include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "shell/board_view.h"
 #include "shell/long_message.h"
 #include "shell/pacing.h"
 #include "shell/palette.h"
+#include "shell/screen_lock.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -38,6 +40,21 @@ TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRe
     ShowMessage("", 1);
     EXPECT_EQ(screen().pixels, bar.pixels);
     EXPECT_FALSE(ui.messagePosted) << "nor is it the turn's message";
+}
+
+TEST_F(MessagesTest, NestedLocksShowNothingBeforeTheOutermostIsReleased) {
+    const auto shownAt = [](int x) { return script::shownFrame()[static_cast<std::size_t>(x)]; };
+    {
+        const HeldScreen outer;
+        for (const int x : {3, 4}) {
+            const HeldScreen inner;
+            fillBox(x, 0, x, 0, colour::red);
+        }
+        EXPECT_NE(shownAt(3), colour::red);
+        sleep(20);
+        EXPECT_NE(shownAt(4), colour::red);
+    }
+    EXPECT_TRUE(shownAt(3) == colour::red && shownAt(4) == colour::red);
 }
 
 TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {

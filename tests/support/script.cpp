@@ -116,6 +116,10 @@ Script& Script::clearBoard() {
     return then([](InputQueue& queue) { clickTiles(queue, 3000); });
 }
 
+void playNext(const Script& script) {
+    pending.insert(pending.begin(), script.steps.begin(), script.steps.end());
+}
+
 void startScript(const Script& script) {
     pending = script.steps;
     script::feedWhenIdle(handOut);

@@ -48,6 +48,9 @@ struct Script {
     std::deque<Step> steps;
 };
 
+/// Puts steps before those that are left of the script that plays.
+void playNext(const Script& script);
+
 /// Lets the script play whatever runs next; what it leaves unused is reported by finishScript.
 void startScript(const Script& script);
 void finishScript();

@@ -1,0 +1,203 @@
+// What holds on every screen: a press that is let go elsewhere leaves no trace, a press from before a screen
+// or a question does nothing there, and the play screen stands as it would be drawn afresh.
+#include <algorithm>
+#include <memory>
+
+#include "content/game_flow.h"
+#include "platform/frame.h"
+#include "shell/layout.h"
+#include "shell/places.h"
+#include "shell/tiles.h"
+#include "tests/support/script.h"
+
+namespace gloomdeck {
+
+namespace {
+
+constexpr Point nothing{404, 300};
+constexpr Point yesButton{167, 262};
+constexpr Rect cursor{16, 180, 240, 184};  // it blinks
+
+using Rects = std::vector<Rect>;
+
+// The middles of all cells of all widgets that the current screen tests on a press.
+std::vector<Point> pressPlaces() {
+    std::vector<Point> places;
+    for (const int widgetId : pressOrder(prefs.currentScreen)) {
+        const Button& b = widget(widgetId);
+        if (b.hidden) continue;
+        for (int y = b.y + b.cellHeight / 2; y < b.y + b.height; y += b.cellHeight)
+            for (int x = b.x + b.cellWidth / 2; x < b.x + b.width; x += b.cellWidth) places.push_back({x, y});
+    }
+    return places;
+}
+
+bool onStats(Point at) { return contains(statsGrid.area(), at.x, at.y); }
+
+using Pixels = std::vector<Colour>;
+
+Pixels frameWithout(const Rects& rects) {
+    Image frame = screen();
+    for (const Rect& r : rects)
+        for (int y = r.y1; y <= r.y2; ++y)
+            for (int x = r.x1; x <= r.x2; ++x)
+                frame.pixels[static_cast<std::size_t>(y * frame.width + x)] = 0;
+    return frame.pixels;
+}
+
+// The rectangle in which two frames differ, as text; empty where they are the same.
+std::string difference(const Pixels& a, const Pixels& b) {
+    Rect found{frameWidth, frameHeight, -1, -1};
+    for (int y = 0, i = 0; y < frameHeight; ++y)
+        for (int x = 0; x < frameWidth; ++x, ++i)
+            if (a[static_cast<std::size_t>(i)] != b[static_cast<std::size_t>(i)])
+                found = {std::min(found.x1, x), std::min(found.y1, y), std::max(found.x2, x), y};
+    if (isEmpty(found)) return {};
+    return "(" + std::to_string(found.x1) + ", " + std::to_string(found.y1) + ") to (" +
+           std::to_string(found.x2) + ", " + std::to_string(found.y2) + ")";
+}
+
+// The records but for the screen that is shown.
+std::string records() {
+    Prefs kept = prefs;
+    kept.currentScreen = 0;
+    return gameBytes() + std::string(reinterpret_cast<const char*>(&kept), sizeof kept) +
+           std::to_string(ui.targetMode);
+}
+
+}  // namespace
+
+class EveryScreenTest : public PlayTest {
+  protected:
+    void SetUp() override {
+        PlayTest::SetUp();
+        script.startScenario(5).check([] {
+            constexpr std::array tiles{enc::Gold, enc::Door,        enc::Ghost, enc::Thief,
+                                       enc::Cave, enc::OozingFilth, enc::Demon};
+            for (int i = 0; i < columnCount * rowCount; ++i)
+                cell(i % columnCount, i / columnCount) = tiles[static_cast<std::size_t>(i * 5 % columnCount)];
+            giveHero(50);
+            seedRolls(3);
+            openPlayScreen();
+        });
+    }
+    // Presses every place of the screen that is open then, and lets go elsewhere.
+    void pressAll(const Rects& apart = {}) {
+        script.move(boardCell(1, 1)).move(nothing).check([=] {
+            Script presses;
+            for (const Point at : pressPlaces()) {
+                if (onStats(at)) continue;  // counts wherever it is let go
+                auto before = std::make_shared<Pixels>();
+                presses.check([=] { *before = frameWithout(apart); }).press(at);
+                presses.check(
+                    [=] { EXPECT_NE(difference(frameWithout(apart), *before), "") << at.x << ", " << at.y; });
+                presses.release(nothing);
+                presses.check(
+                    [=] { EXPECT_EQ(difference(frameWithout(apart), *before), "") << at.x << ", " << at.y; });
+            }
+            playNext(presses);
+        });
+    }
+    // With the button down on each place of the screen that those keys open from the play screen.
+    void holdInto(const std::string& keys, const std::string& title) {
+        script.type(keys).check([=] {
+            Script holds;
+            for (const Point at : pressPlaces()) {
+                if (onStats(at)) continue;
+                auto before = std::make_shared<std::string>();
+                holds.key("q").check([=] { *before = records(); });
+                holds.press(at).type(keys).release(at).screen(title);
+                holds.key("q").press(at).type(keys).key("q").release(at).screen("Gloomdeck 1.2");
+                holds.check([=] { EXPECT_EQ(records(), *before) << at.x << ", " << at.y; }).type(keys);
+            }
+            playNext(holds.key("q"));
+        });
+    }
+    // What stands on the play screen is what openPlayScreen draws, but for what no drawing afresh knows: the
+    // information area, the icon of a mode that was, scorches and highlights.
+    void expectFresh(const char* when) {
+        script.move(nothing).check([=] {
+            Rects apart{place::infoArea, place::modeIcon};
+            for (int i = 0; i < columnCount * rowCount; ++i) {
+                const Rect r = boardGrid.cell(i % columnCount, i / columnCount);
+                if (pixelAt(r.x1 + 4, r.y1 + 4) == flatColour(tile::scorch)) apart.push_back(r);
+            }
+            for (int item = 0; item < itemCount; ++item)
+                if (itemType(item).highlightTurns > 0)
+                    apart.push_back({278, 40 + 32 * item, 325, 71 + 32 * item});
+            const Image standing = screen();
+            const Pixels expected = frameWithout(apart);
+            openPlayScreen();
+            EXPECT_EQ(difference(frameWithout(apart), expected), "") << when;
+            screen() = standing;
+            frameChanged();
+        });
+    }
+    void finish() { EXPECT_EQ(run(script.closeWindow()), 0); }
+    Script script;
+};
+
+TEST_F(EveryScreenTest, APressThatIsLetGoElsewhereLeavesTheFrameAsItWas) {
+    pressAll();
+    for (const char* key : {"P", "T", "H"}) {
+        script.key(key);
+        pressAll();
+        script.key("q");
+    }
+    script.key("H").key(keycode::up).key(keycode::up);
+    pressAll();
+    script.key("q").key("N").key("y");
+    pressAll({cursor});
+    script.key(keycode::left);
+    pressAll({cursor});
+    script.key(keycode::enter).key(keycode::space).hurry().clearBoard();  // the first stage of a campaign
+    pressAll();
+    finish();
+}
+
+TEST_F(EveryScreenTest, APressFromBeforeAScreenOrAQuestionDoesNothingThereNorAfterIt) {
+    for (const auto& [keys, title] : {std::pair{"P", "Preferences"}, {"T", "Train or trade"}, {"H", "Help"}})
+        holdInto(keys, title);
+    script.press(boardCell(2, bottomRow))
+        .type("Ny")
+        .release({228, 208})
+        .screen("Select a game")
+        .key(keycode::enter);
+    for (const char* key : {"R", "N", "Q"}) {
+        script.press(yesButton).key(key).release(yesButton).key("n").screen("Gloomdeck 1.2");
+        script.press(boardCell(2, bottomRow)).key(key).key("n").release(boardCell(2, bottomRow));
+    }
+    script.check([] { EXPECT_EQ(game.turns, 0); });
+    finish();
+}
+
+TEST_F(EveryScreenTest, ThePlayScreenStandsAsItWouldBeDrawnAfresh) {
+    script.check([] {
+        game.turns = 1;  // no hint
+        openPlayScreen();
+    });
+    expectFresh("at first");
+    for (const int item : {suns, shields, keys}) {
+        script.click(statsCell(item));
+        expectFresh("after an item");
+    }
+    for (const int item : {lightningBolts, bombs, hands}) {
+        script.click(statsCell(item)).move(boardCell(3, 2)).key(keycode::escape);
+        expectFresh("after a cancel");
+        script.click(statsCell(item)).click(boardCell(3, 2));
+        expectFresh("after an aimed item");
+    }
+    for (int turn = 0; turn < 3 * columnCount; ++turn) {
+        script.click(boardCell(turn % columnCount, bottomRow));
+        expectFresh("after a turn");
+    }
+    for (const char* key : {"P", "T", "H", "Q"}) {
+        script.move(boardCell(4, 4)).key(key).key("n").key(keycode::escape);
+        expectFresh("after a return");
+    }
+    script.hurry().clearBoard();
+    expectFresh("at the end");
+    finish();
+}
+
+}  // namespace gloomdeck

@@ -1,0 +1,94 @@
+// Turns as the main loop takes them: the message bar, the autoplayer, questions, and what a screen forgets.
+#include "content/game_flow.h"
+#include "platform/frame.h"
+#include "platform/random.h"
+#include "shell/layout.h"
+#include "shell/tiles.h"
+#include "tests/support/script.h"
+
+namespace gloomdeck {
+
+class TurnsTest : public PlayTest {
+  protected:
+    void SetUp() override {
+        PlayTest::SetUp();
+        script.startScenario(5).check([] {
+            useRandomSource([] { return 0.0; });  // every roll shows 1
+            makeEmptyBoard();
+            for (int i = 0; i < columnCount * rowCount; ++i)
+                cell(i % columnCount, i / columnCount) = enc::Darkness;
+            giveHero(9);
+            game.turns = 1;
+            openPlayScreen();
+        });
+    }
+    void finish() { EXPECT_EQ(run(script.closeWindow()), 0); }
+    Script& bar(const std::array<std::string, 4>& lines) {
+        return script.check([=] { EXPECT_EQ(messageBar.lines, lines); });
+    }
+    Script& meet(int col) { return script.click(boardCell(col, bottomRow)); }
+    Script script;
+};
+
+TEST_F(TurnsTest, AMarkedMessageStandsForItsPassAndScrollsAtTheNextTurn) {
+    script.check([] {
+        level(lockpicking) = 5;
+        cell(2, bottomRow) = enc::Door;
+    });
+    meet(2);
+    bar({"You picked the lock!", "Click on the bottom row of the map grid above."});
+    meet(3);
+    bar({"", "You picked the lock!", "Click on the bottom row of the map grid above."});
+    finish();
+}
+
+TEST_F(TurnsTest, TheAutoplayerFollowsThePlayersOwnTurnAndTheBarScrollsInEachOfItsTurns) {
+    script.check([] {
+        prefs.goodStuff = 1;
+        for (const int row : {4, 5, 6}) cell(5, row) = enc::Gold;
+    });
+    meet(1).check([] {
+        EXPECT_EQ(std::pair(column(1).drawn, column(5).drawn), std::pair(1, 3));
+        EXPECT_EQ(game.turns, 5);
+    });
+    bar({"", "", "", ""}).check([] { prefs.goodStuff = 0; });
+    meet(1).check([] { EXPECT_EQ(game.turns, 6) << "with its switches off"; });
+    finish();
+}
+
+TEST_F(TurnsTest, WhatIsTypedAndPressedBehindAQuestionIsLostWithIt) {
+    script.key("R").then([](InputQueue& queue) {
+        pointAt(queue, widgetCentre(id::prefs), {true});
+        for (const char* key : {"n", "P", "H"}) keyTyped(queue, key);
+    });
+    script.screen("Gloomdeck 1.2").release(widgetCentre(id::prefs)).screen("Gloomdeck 1.2");
+    script.button(id::prefs).screen("Preferences").key("q");
+    finish();
+}
+
+TEST_F(TurnsTest, ReplayAndNewAskBetweenTheStagesOfACampaign) {
+    script.check([] {
+        game.campaign = game.campaignStage = 0;
+        prefs.scenarioOver = 1;
+        for (int col = 0; col < columnCount; ++col) column(col).finished = 1;
+        openPlayScreen();
+    });
+    for (const char* key : {"R", "N"})
+        script.key(key).key("n").screen("Gloomdeck 1.2").check([] { EXPECT_EQ(game.turns, 1); });
+    for (const int button : {id::replay, id::newGame})
+        script.button(button).key("n").screen("Gloomdeck 1.2").check([] { EXPECT_EQ(game.turns, 1); });
+    finish();
+}
+
+TEST_F(TurnsTest, AHoveredSquareIsForgottenWhenThePlayScreenOpensAndHoveredAnew) {
+    const auto corner = [] { return pixelAt(boardCell(4, 4).x, boardCell(4, 4).y); };
+    for (const Point at : {boardCell(4, 4), statsCell(suns)})
+        script.move(at).key("H").key("q").check([=] {
+            EXPECT_EQ(widget(id::board).hoverCol, at == boardCell(4, 4) ? 4 : -1);
+            EXPECT_EQ(widget(id::stats).hoverCol, at == boardCell(4, 4) ? -1 : 0);
+            EXPECT_EQ(corner() == flatColour(tile::darkness), at != boardCell(4, 4));
+        });
+    finish();
+}
+
+}  // namespace gloomdeck
