@@ -11,13 +11,13 @@
 #include "rules/board.h"
 #include "rules/board_turn.h"
 #include "rules/catalogue.h"
-#include "rules/cell_view.h"
 #include "rules/encounter.h"
 #include "rules/spells.h"
-#include "shell/mouse.h"
-#include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/places.h"
+#include "shell/play/cell_view.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/places.h"
 
 namespace gloomdeck {
 

@@ -8,8 +8,8 @@
 #include "benchmarks/suites.h"
 #include "platform/frame.h"
 #include "rules/catalogue.h"
-#include "shell/places.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -12,9 +12,9 @@
 #include "platform/random.h"
 #include "prefs/prefs.h"
 #include "rules/board.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

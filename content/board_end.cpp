@@ -3,8 +3,8 @@
 #include "prefs/prefs.h"
 #include "prefs/score.h"
 #include "rules/board.h"
-#include "shell/layout.h"
-#include "shell/panels.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/panels.h"
 
 namespace gloomdeck {
 

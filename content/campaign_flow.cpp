@@ -10,9 +10,9 @@
 #include "prefs/prefs.h"
 #include "rules/dice.h"
 #include "rules/game_state.h"
-#include "shell/layout.h"
-#include "shell/long_message.h"
-#include "shell/panels.h"
+#include "shell/play/long_message.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/panels.h"
 
 namespace gloomdeck {
 

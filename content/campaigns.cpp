@@ -1,6 +1,6 @@
 #include "content/campaigns.h"
 
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "platform/rounding.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -15,7 +15,7 @@
 #include "prefs/saved_data.h"
 #include "rules/game_state.h"
 #include "shell/main_loop.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/ui_state.h"
 #include "tests/support/invariants.h"
 #include "tests/support/reset.h"
 

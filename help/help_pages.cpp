@@ -6,10 +6,10 @@
 #include "help/help_texts.h"
 #include "platform/draw.h"
 #include "rules/catalogue.h"
-#include "shell/describe.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/tile_set.h"
+#include "shell/play/describe.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -9,14 +9,14 @@
 #include "platform/input.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
-#include "shell/layout.h"
-#include "shell/menus.h"
-#include "shell/mouse.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/screen_lock.h"
-#include "shell/screen_poll.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/menus.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/screen_poll.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -42,7 +42,8 @@ void setFolder(const std::string& folder);
 /// How long the display shows a picture; 0 (as at the start) takes every present.
 void setFramePeriod(double seconds);
 
-/// The frame as the presents have named its rows (empty before the window opens), how many there were, and the window's title.
+/// The frame as the presents have named its rows (empty before the window opens), how many there were, and
+/// the window's title.
 const std::vector<Colour>& shownFrame();
 long presentCount();
 const std::string& windowTitle();

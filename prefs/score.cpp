@@ -6,7 +6,7 @@
 
 #include "platform/rounding.h"
 #include "rules/board.h"
-#include "shell/panels.h"
+#include "shell/widgets/panels.h"
 
 namespace gloomdeck {
 

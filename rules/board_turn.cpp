@@ -4,13 +4,13 @@
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "rules/day_display.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "rules/stats_column.h"
-#include "shell/messages.h"
-#include "shell/screen_lock.h"
-#include "shell/ui_state.h"
+#include "shell/play/day_display.h"
+#include "shell/play/stats_column.h"
+#include "shell/widgets/messages.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -1,7 +1,7 @@
 #include "rules/catalogue.h"
 
 #include "rules/dice.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -4,8 +4,8 @@
 
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "rules/cell_view.h"
 #include "rules/dice.h"
+#include "shell/play/cell_view.h"
 
 namespace gloomdeck {
 

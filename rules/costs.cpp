@@ -6,7 +6,7 @@
 #include "rules/board.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "shell/messages.h"
+#include "shell/widgets/messages.h"
 
 namespace gloomdeck {
 

@@ -4,8 +4,8 @@
 
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "rules/stats_column.h"
-#include "shell/board_view.h"
+#include "shell/play/board_view.h"
+#include "shell/play/stats_column.h"
 
 namespace gloomdeck {
 

@@ -5,7 +5,7 @@
 #include "rules/catalogue.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "shell/messages.h"
+#include "shell/widgets/messages.h"
 
 namespace gloomdeck {
 

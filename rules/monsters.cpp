@@ -6,10 +6,10 @@
 #include "platform/geometry.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "rules/cell_view.h"
 #include "rules/dice.h"
-#include "shell/board_view.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
+#include "shell/play/board_view.h"
+#include "shell/play/cell_view.h"
 
 namespace gloomdeck {
 

@@ -6,17 +6,17 @@
 #include "platform/frame.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "rules/cell_view.h"
 #include "rules/clear_cell.h"
 #include "rules/dice.h"
 #include "rules/encounter.h"
 #include "rules/hero.h"
-#include "shell/board_view.h"
-#include "shell/pacing.h"
+#include "rules/tiles.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/screen_lock.h"
-#include "shell/tiles.h"
+#include "shell/play/board_view.h"
+#include "shell/play/cell_view.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/screen_lock.h"
 
 namespace gloomdeck {
 

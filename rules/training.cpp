@@ -3,9 +3,9 @@
 #include "platform/draw.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

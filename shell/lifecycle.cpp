@@ -3,8 +3,8 @@
 #include "platform/input.h"
 #include "platform/question.h"
 #include "prefs/saved_data.h"
-#include "shell/mouse.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -6,11 +6,11 @@
 #include "rules/encounter.h"
 #include "rules/game_state.h"
 #include "rules/spells.h"
-#include "rules/training_screen.h"
-#include "shell/messages.h"
+#include "rules/training/training_screen.h"
+#include "shell/play/target_mode.h"
 #include "shell/play_screen.h"
-#include "shell/target_mode.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/messages.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

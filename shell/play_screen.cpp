@@ -4,9 +4,9 @@
 #include "content/game_flow.h"
 #include "platform/frame.h"
 #include "prefs/prefs.h"
-#include "shell/layout.h"
-#include "shell/mouse.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

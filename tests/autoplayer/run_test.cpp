@@ -1,7 +1,7 @@
 // Runs: what stops them, what is spent on grief, and what every move takes with it.
-#include "shell/mouse.h"
 #include "shell/palette.h"
-#include "shell/places.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/places.h"
 #include "tests/autoplayer/autoplayer_test.h"
 
 namespace gloomdeck {

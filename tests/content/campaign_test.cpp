@@ -5,9 +5,9 @@
 #include "content/campaign_flow.h"
 #include "content/campaigns.h"
 #include "content/game_flow.h"
-#include "shell/layout.h"
+#include "rules/tiles.h"
 #include "shell/palette.h"
-#include "shell/tiles.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "shell/layout.h"
+#include "rules/tiles.h"
 #include "shell/palette.h"
-#include "shell/tiles.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -1,9 +1,9 @@
-#include "content/game_selection.h"
+#include "content/screens/game_selection.h"
 
 #include "platform/input.h"
 #include "prefs/saved_data.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

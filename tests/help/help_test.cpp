@@ -1,8 +1,8 @@
 #include "help/help_pages.h"
 #include "help/help_screen.h"
 #include "help/help_texts.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -1,5 +1,5 @@
 // The keys and buttons of the play screen, and the screens that they open.
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -2,7 +2,7 @@
 #include <random>
 #include <set>
 
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

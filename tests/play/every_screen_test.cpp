@@ -5,9 +5,9 @@
 
 #include "content/game_flow.h"
 #include "platform/frame.h"
-#include "shell/layout.h"
-#include "shell/places.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/places.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

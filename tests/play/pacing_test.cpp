@@ -1,5 +1,5 @@
 // What happens while an action runs: impatient clicks, keys, and stopping the autoplayer.
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -2,7 +2,7 @@
 #include "content/game_flow.h"
 #include "content/locations.h"
 #include "content/scenarios.h"
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 #include "tests/play/scenes.h"
 
 namespace gloomdeck {

@@ -2,8 +2,8 @@
 #include "content/campaigns.h"
 #include "help/help_pages.h"
 #include "help/help_texts.h"
-#include "shell/layout.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
+#include "shell/widgets/layout.h"
 #include "tests/play/scenes.h"
 
 namespace gloomdeck {

@@ -9,8 +9,8 @@
 #include "platform/frame.h"
 #include "prefs/score.h"
 #include "rules/board.h"
-#include "shell/layout.h"
-#include "shell/panels.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/panels.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -1,7 +1,7 @@
 // One play through every screen, every state of it and every animation, on flat tiles.
 #include "content/game_flow.h"
 #include "prefs/saved_data.h"
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 #include "tests/play/scenes.h"
 
 namespace gloomdeck {

@@ -2,8 +2,8 @@
 #include "content/game_flow.h"
 #include "platform/frame.h"
 #include "platform/random.h"
-#include "shell/layout.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

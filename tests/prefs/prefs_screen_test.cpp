@@ -1,10 +1,10 @@
-#include "prefs/prefs_screen.h"
+#include "prefs/screen/prefs_screen.h"
 
 #include <cstring>
 
 #include "platform/input.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -5,8 +5,8 @@
 
 #include "platform/draw.h"
 #include "prefs/score.h"
-#include "rules/day_display.h"
 #include "rules/hero.h"
+#include "shell/play/day_display.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {

@@ -6,10 +6,10 @@
 
 #include "prefs/score.h"
 #include "rules/board_turn.h"
-#include "rules/day_display.h"
 #include "rules/encounter.h"
-#include "rules/stats_column.h"
-#include "shell/board_view.h"
+#include "shell/play/board_view.h"
+#include "shell/play/day_display.h"
+#include "shell/play/stats_column.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "rules/encounter.h"
+#include "rules/tiles.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/tiles.h"
+#include "shell/widgets/places.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

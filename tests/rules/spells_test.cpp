@@ -1,7 +1,7 @@
 #include "rules/spells.h"
 
 #include "shell/palette.h"
-#include "shell/places.h"
+#include "shell/widgets/places.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {

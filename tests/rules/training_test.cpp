@@ -1,7 +1,7 @@
-#include "rules/training_screen.h"
-#include "shell/layout.h"
+#include "rules/tiles.h"
+#include "rules/training/training_screen.h"
 #include "shell/palette.h"
-#include "shell/tiles.h"
+#include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

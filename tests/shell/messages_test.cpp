@@ -3,11 +3,11 @@
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"
-#include "shell/board_view.h"
-#include "shell/long_message.h"
-#include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/screen_lock.h"
+#include "shell/play/board_view.h"
+#include "shell/play/long_message.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/screen_lock.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

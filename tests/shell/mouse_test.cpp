@@ -1,13 +1,13 @@
 // The mouse handler, what clicks mean, and the hover descriptions.
-#include "shell/mouse.h"
+#include "shell/widgets/mouse.h"
 
 #include "platform/frame.h"
 #include "platform/input.h"
-#include "shell/board_view.h"
-#include "shell/describe.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/places.h"
+#include "shell/play/board_view.h"
+#include "shell/play/describe.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/places.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -14,9 +14,9 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/random.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/tile_set.h"
 #include "tests/support/reset.h"
 
 namespace gloomdeck {

@@ -11,8 +11,8 @@
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/messages.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/messages.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -8,11 +8,11 @@
 #include "prefs/saved_data.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/layout.h"
 #include "shell/lifecycle.h"
-#include "shell/messages.h"
-#include "shell/mouse.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/messages.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -6,9 +6,9 @@
 
 #include "content/locations.h"
 #include "platform/frame.h"
-#include "shell/layout.h"
 #include "shell/main_loop.h"
-#include "shell/places.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/places.h"
 
 namespace gloomdeck {
 

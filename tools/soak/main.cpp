@@ -13,7 +13,7 @@
 #include "platform/host_script.h"
 #include "platform/input.h"
 #include "shell/main_loop.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/ui_state.h"
 #include "tests/support/reset.h"
 #include "tools/common/program_folder.h"
 #include "tools/soak/player.h"

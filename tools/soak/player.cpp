@@ -8,8 +8,8 @@
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
 #include "rules/game_state.h"
-#include "shell/layout.h"
-#include "shell/places.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/places.h"
 
 namespace gloomdeck::soak {
 

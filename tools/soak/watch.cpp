@@ -4,7 +4,7 @@
 #include <string>
 
 #include "rules/game_state.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/ui_state.h"
 #include "tests/support/invariants.h"
 
 namespace gloomdeck::soak {

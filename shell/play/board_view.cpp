@@ -1,4 +1,4 @@
-#include "shell/board_view.h"
+#include "shell/play/board_view.h"
 
 #include <string>
 
@@ -9,9 +9,9 @@
 #include "rules/catalogue.h"
 #include "rules/dice.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/screen_lock.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

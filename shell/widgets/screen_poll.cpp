@@ -1,12 +1,12 @@
-#include "shell/screen_poll.h"
+#include "shell/widgets/screen_poll.h"
 
 #include <algorithm>
 #include <array>
 
 #include "platform/input.h"
 #include "prefs/saved_data.h"
-#include "shell/mouse.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "content/game_selection.h"
+#include "content/screens/game_selection.h"
 
 #include <array>
 #include <string>
@@ -6,7 +6,7 @@
 #include "content/campaigns.h"
 #include "content/game_flow.h"
 #include "content/scenarios.h"
-#include "content/selection_list.h"
+#include "content/screens/selection_list.h"
 #include "content/story_texts.h"
 #include "platform/draw.h"
 #include "platform/font.h"
@@ -14,17 +14,17 @@
 #include "platform/input.h"
 #include "platform/system.h"
 #include "prefs/prefs.h"
-#include "shell/describe.h"
-#include "shell/layout.h"
+#include "rules/tiles.h"
 #include "shell/lifecycle.h"
-#include "shell/menus.h"
-#include "shell/mouse.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/screen_lock.h"
-#include "shell/screen_poll.h"
-#include "shell/tiles.h"
-#include "shell/ui_state.h"
+#include "shell/play/describe.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/menus.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/screen_poll.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

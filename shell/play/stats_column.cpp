@@ -1,4 +1,4 @@
-#include "rules/stats_column.h"
+#include "shell/play/stats_column.h"
 
 #include <algorithm>
 #include <string>
@@ -7,8 +7,8 @@
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "shell/button.h"
+#include "shell/widgets/button.h"
 
 #include "platform/draw.h"
 #include "platform/rounding.h"

@@ -1,14 +1,14 @@
-#include "rules/cell_view.h"
+#include "shell/play/cell_view.h"
 
 #include "content/locations.h"
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -1,12 +1,12 @@
-#include "shell/play_pieces.h"
+#include "shell/play/play_pieces.h"
 
 #include "platform/draw.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/places.h"
-#include "shell/screen_lock.h"
-#include "shell/tile_set.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/tile_set.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

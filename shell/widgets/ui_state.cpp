@@ -1,4 +1,4 @@
-#include "shell/ui_state.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "prefs/prefs_screen.h"
+#include "prefs/screen/prefs_screen.h"
 
 #include <array>
 #include <string>
@@ -7,14 +7,14 @@
 #include "platform/frame.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
-#include "shell/layout.h"
-#include "shell/mouse.h"
-#include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/screen_lock.h"
-#include "shell/screen_poll.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/screen_poll.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -1,7 +1,7 @@
 // The one hit test of every widget, with the feedback that it draws.
 #pragma once
 
-#include "shell/button.h"
+#include "shell/widgets/button.h"
 
 namespace gloomdeck {
 

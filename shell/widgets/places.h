@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/geometry.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -1,15 +1,15 @@
-#include "rules/training_screen.h"
+#include "rules/training/training_screen.h"
 
 #include "platform/frame.h"
 #include "prefs/prefs.h"
 #include "rules/catalogue.h"
 #include "rules/training.h"
-#include "shell/layout.h"
-#include "shell/mouse.h"
-#include "shell/panels.h"
-#include "shell/screen_lock.h"
-#include "shell/screen_poll.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/mouse.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/screen_poll.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

@@ -1,14 +1,14 @@
-#include "shell/panels.h"
+#include "shell/widgets/panels.h"
 
 #include <algorithm>
 
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/screen_lock.h"
-#include "shell/text.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/text.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

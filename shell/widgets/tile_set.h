@@ -6,7 +6,7 @@
 
 #include "platform/geometry.h"
 #include "platform/image.h"
-#include "shell/tiles.h"
+#include "rules/tiles.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "shell/pacing.h"
+#include "shell/widgets/pacing.h"
 
 #include <array>
 
@@ -6,7 +6,7 @@
 #include "platform/input.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
-#include "shell/messages.h"
+#include "shell/widgets/messages.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "shell/describe.h"
+#include "shell/play/describe.h"
 
 #include <string>
 
@@ -6,9 +6,9 @@
 #include "platform/draw.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
-#include "shell/play_pieces.h"
-#include "shell/screen_lock.h"
-#include "shell/tile_set.h"
+#include "shell/play/play_pieces.h"
+#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -1,12 +1,12 @@
-#include "shell/menus.h"
+#include "shell/widgets/menus.h"
 
 #include <array>
 
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/rounding.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
+#include "shell/widgets/layout.h"
 
 namespace gloomdeck {
 

@@ -1,12 +1,12 @@
-#include "shell/long_message.h"
+#include "shell/play/long_message.h"
 
 #include "platform/draw.h"
-#include "shell/board_view.h"
-#include "shell/pacing.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/places.h"
-#include "shell/screen_lock.h"
+#include "shell/play/board_view.h"
+#include "shell/widgets/pacing.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/screen_lock.h"
 
 namespace gloomdeck {
 

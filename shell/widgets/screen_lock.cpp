@@ -1,7 +1,7 @@
-#include "shell/screen_lock.h"
+#include "shell/widgets/screen_lock.h"
 
 #include "platform/frame.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

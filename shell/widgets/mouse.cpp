@@ -1,18 +1,18 @@
-#include "shell/mouse.h"
+#include "shell/widgets/mouse.h"
 
-#include "content/selection_list.h"
+#include "content/screens/selection_list.h"
 #include "help/help_texts.h"
 #include "platform/input.h"
 #include "prefs/prefs.h"
-#include "rules/stats_column.h"
-#include "shell/board_view.h"
-#include "shell/hit_test.h"
-#include "shell/layout.h"
-#include "shell/menus.h"
-#include "shell/places.h"
+#include "shell/play/board_view.h"
+#include "shell/play/play_pieces.h"
+#include "shell/play/stats_column.h"
 #include "shell/play_clicks.h"
-#include "shell/play_pieces.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/hit_test.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/menus.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

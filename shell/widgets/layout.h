@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "shell/button.h"
+#include "shell/widgets/button.h"
 
 namespace gloomdeck {
 

@@ -1,13 +1,13 @@
-#include "shell/hit_test.h"
+#include "shell/widgets/hit_test.h"
 
 #include "platform/draw.h"
 #include "platform/frame.h"
-#include "rules/stats_column.h"
-#include "shell/describe.h"
 #include "shell/palette.h"
-#include "shell/play_pieces.h"
-#include "shell/tile_set.h"
-#include "shell/ui_state.h"
+#include "shell/play/describe.h"
+#include "shell/play/play_pieces.h"
+#include "shell/play/stats_column.h"
+#include "shell/widgets/tile_set.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

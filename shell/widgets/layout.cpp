@@ -1,9 +1,9 @@
-#include "shell/layout.h"
+#include "shell/widgets/layout.h"
 
 #include <array>
 
 #include "prefs/prefs.h"
-#include "shell/places.h"
+#include "shell/widgets/places.h"
 
 namespace gloomdeck {
 

@@ -1,4 +1,4 @@
-#include "rules/day_display.h"
+#include "shell/play/day_display.h"
 
 #include <array>
 #include <string>
@@ -6,8 +6,8 @@
 #include "platform/draw.h"
 #include "rules/game_state.h"
 #include "shell/palette.h"
-#include "shell/places.h"
-#include "shell/tile_set.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
 

@@ -1,13 +1,13 @@
-#include "content/selection_list.h"
+#include "content/screens/selection_list.h"
 
 #include <string_view>
 
 #include "content/campaigns.h"
 #include "content/scenarios.h"
 #include "platform/draw.h"
-#include "shell/layout.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
+#include "shell/widgets/layout.h"
+#include "shell/widgets/panels.h"
 
 namespace gloomdeck {
 

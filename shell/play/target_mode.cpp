@@ -1,11 +1,11 @@
-#include "shell/target_mode.h"
+#include "shell/play/target_mode.h"
 
 #include <array>
 #include <string>
 
-#include "shell/messages.h"
-#include "shell/play_pieces.h"
-#include "shell/ui_state.h"
+#include "shell/play/play_pieces.h"
+#include "shell/widgets/messages.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 

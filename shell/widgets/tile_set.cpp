@@ -1,4 +1,4 @@
-#include "shell/tile_set.h"
+#include "shell/widgets/tile_set.h"
 
 #include <algorithm>
 

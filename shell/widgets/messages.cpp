@@ -1,13 +1,13 @@
-#include "shell/messages.h"
+#include "shell/widgets/messages.h"
 
 #include <algorithm>
 
 #include "platform/draw.h"
 #include "shell/palette.h"
-#include "shell/panels.h"
-#include "shell/places.h"
-#include "shell/text.h"
-#include "shell/ui_state.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/places.h"
+#include "shell/widgets/text.h"
+#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 
