@@ -1,30 +1,21 @@
 #include "autoplayer/autoplayer.h"
 
 #include <optional>
-#include <string>
 
 #include "autoplayer/assess.h"
 #include "autoplayer/autoplayer_table.h"
-#include "platform/draw.h"
-#include "platform/input.h"
+#include "platform/geometry.h"
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "rules/board_turn.h"
 #include "rules/catalogue.h"
 #include "rules/encounter.h"
+#include "rules/show.h"
 #include "rules/spells.h"
-#include "shell/palette.h"
-#include "shell/play/cell_view.h"
-#include "shell/widgets/mouse.h"
-#include "shell/widgets/pacing.h"
-#include "shell/widgets/places.h"
 
 namespace gloomdeck {
 
 namespace {
-
-constexpr int flashes = 4;
-constexpr int flashPause = 50;
 
 // Board places: x is the column, y the row.
 using Target = std::optional<Point>;
@@ -87,35 +78,7 @@ Move findMove() {
     return move;
 }
 
-void drawFlash(const Rect& r, Colour colour) {
-    drawBox(r.x1, r.y1, r.x2, r.y2, colour);
-    Delay(flashPause);
-}
-
-void FlashCell(Point at) {
-    const int eyeRow = FirstEyeRow(at.x);
-    if (eyeRow != none && at.y > eyeRow) return;
-    const Rect r = boardGrid.cell(at.x, at.y);
-    for (int i = 0; i < flashes; ++i) {
-        drawFlash(r, colour::yellow);
-        drawFlash(r, colour::red);
-    }
-    drawCellTile(at.x, at.y);
-}
-
-bool isCancelKey(const std::string& key) {
-    return key == keycode::space || key == keycode::escape || key == keycode::enter;
-}
-
 }  // namespace
-
-bool CancelRequested() {
-    const std::string key = readKey();
-    if (isCancelKey(key) || keptCloseRequest(key)) return true;
-    const bool held = leftIsHeld(getMouse());
-    if (held) startScreenPress();
-    return held;
-}
 
 void RunAutoplayer() {
     if (!anySwitchIsOn()) return;
@@ -124,7 +87,7 @@ void RunAutoplayer() {
         if (!move.found) return;
         done = CancelRequested();
         if (move.target) {
-            FlashCell(*move.target);
+            FlashCell(move.target->x, move.target->y);
             Encounter(move.target->x, move.target->y, 0);
         }
         BoardTurn();

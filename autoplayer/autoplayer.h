@@ -7,8 +7,4 @@ namespace gloomdeck {
 /// interrupts it. With its five switches off it returns at once.
 void RunAutoplayer();
 
-/// Reads one key and the pointer: true for Space, Escape, Enter, a held left button or a close request, which
-/// stays to be acted on. Any other key is consumed.
-bool CancelRequested();
-
 }  // namespace gloomdeck

@@ -10,6 +10,7 @@
 #include "benchmarks/suites.h"
 #include "content/game_flow.h"
 #include "platform/frame.h"
+#include "shell/play/play_view.h"
 
 namespace gloomdeck {
 

@@ -13,6 +13,7 @@
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "shell/palette.h"
+#include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/tile_set.h"
 

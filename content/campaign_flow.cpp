@@ -1,7 +1,6 @@
 #include "content/campaign_flow.h"
 
 #include <algorithm>
-#include <string>
 
 #include "content/campaigns.h"
 #include "content/deal_board.h"
@@ -10,9 +9,7 @@
 #include "prefs/prefs.h"
 #include "rules/dice.h"
 #include "rules/game_state.h"
-#include "shell/play/long_message.h"
-#include "shell/widgets/layout.h"
-#include "shell/widgets/panels.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
@@ -40,14 +37,12 @@ void startCampaignStage() {
     if (entry < randomStage) entry = randomScenarioOf(difficultyWanted(entry));
     buildScenarioBoard(entry);
     if (prefs.restartSwitch || prefs.skipText) return;
-    drawBackground();
     const std::int64_t number = std::int64_t{game.campaignStage} + 1;
-    showLongMessage(
-        std::string(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99)))));
+    showStory(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99))));
 }
 
 void nextCampaignStage() {
-    widget(id::continueGame).hidden = true;
+    hideContinue();
     addTo(game.campaignStage, 1);
     startCampaignStage();
 }

@@ -1,26 +1,11 @@
 #include "content/game_flow.h"
 
-#include <string>
-
-#include "content/board_end.h"
 #include "content/campaign_flow.h"
-#include "content/campaigns.h"
 #include "content/deal_board.h"
 #include "content/scenarios.h"
-#include "platform/draw.h"
 #include "prefs/prefs.h"
-#include "rules/board.h"
-#include "rules/catalogue.h"
-#include "rules/hero.h"
-#include "shell/palette.h"
-#include "shell/play/board_view.h"
-#include "shell/play/day_display.h"
-#include "shell/play/stats_column.h"
-#include "shell/widgets/layout.h"
-#include "shell/widgets/messages.h"
-#include "shell/widgets/places.h"
-#include "shell/widgets/screen_lock.h"
-#include "shell/widgets/ui_state.h"
+#include "rules/game_state.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
@@ -35,46 +20,10 @@ void makeFreshHero() {
     game.turns = 0;
 }
 
-std::string titleLine() {
-    std::string scenario(scenarioRow(game.scenario).name);
-    if (game.campaign == none) return scenario;
-    const Campaign& campaign = campaignRow(game.campaign);
-    return std::string(campaign.name) + " (" + std::to_string(std::int64_t{game.campaignStage} + 1) + "/" +
-           std::to_string(campaign.scenarioCount) + ") - " + scenario;
-}
-
-int goldTileFor(const Scenario& scenario) {
-    if (scenario.trainingAllowed) return scenario.tradingAllowed ? tile::goldBoth : tile::goldTraining;
-    return scenario.tradingAllowed ? tile::goldTrading : tile::gold;
-}
-
-void drawStatsArea() {
-    const Rect& area = place::statsArea;
-    const Rect icons = statsGrid.area();
-    fillBox(area.x1, area.y1, area.x2, area.y2, colour::slate);
-    drawBox(area.x1, area.y1, area.x2, area.y2, colour::white);
-    for (int item = 0; item < itemCount; ++item) {
-        drawStatsCell(item);
-        AddItem(item, 0);
-    }
-    drawBox(area.x1, area.y1, icons.x2 + 1, area.y2, colour::text);
-    drawLine(icons.x2 + 2, area.y1, icons.x2 + 2, area.y2, colour::black);
-    for (int skill = 0; skill < skillCount; ++skill) ChangeSkill(skill, 0);
-    for (int power = 0; power < powerCount; ++power) ChangePower(power, 0, 1, 1);
-}
-
-void drawMessages() {
-    ShowMessage("", 0);
-    if (game.turns == 0) ShowMessage("Click on the bottom row of the map grid above.", 1);
-}
-
 }  // namespace
 
 void startNewGame() {
-    clearMessages();
-    ui.targetMode = target::none;
-    ui.messagePosted = false;
-    widget(id::continueGame).hidden = true;
+    forgetLastGame();
     makeFreshHero();
     game.campaign = prefs.campaignChoice;
     if (game.campaign == none) {
@@ -87,18 +36,6 @@ void startNewGame() {
     game.scoreStanding = none;
 }
 
-void openPlayScreen() {
-    const HeldScreen held;
-    clearScreen();
-    drawText(place::titleLine.x, place::titleLine.y, titleLine(), colour::white);
-    DrawDayDisplay();
-    drawBoard();
-    itemType(gold).tile = goldTileFor(scenarioRow(game.scenario));
-    drawStatsArea();
-    drawMessages();
-    if (AllColumnsFinished()) showScenarioEnd();
-    for (const int button : {id::newGame, id::replay, id::prefs, id::help, id::exit})
-        drawButton(widget(button));
-}
+bool isGameOver() { return game.campaign == none ? prefs.scenarioOver != 0 : game.campaignWon != 0; }
 
 }  // namespace gloomdeck

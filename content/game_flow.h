@@ -6,7 +6,7 @@ namespace gloomdeck {
 /// Starts the game that the preferences choose: a fresh hero and the first board.
 void startNewGame();
 
-/// Draws the whole play screen for the game as it stands.
-void openPlayScreen();
+/// True when a single scenario is over or a campaign is won.
+bool isGameOver();
 
 }  // namespace gloomdeck

@@ -9,7 +9,7 @@
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
 #include "rules/game_state.h"
-#include "shell/widgets/layout.h"
+#include "shell/widgets/mouse.h"
 #include "shell/widgets/places.h"
 
 namespace gloomdeck::fuzz {
@@ -54,11 +54,11 @@ Point itemPlace(InputBytes& bytes) { return middleOf(statsGrid.cell(0, bytes.bel
 
 // A place on one of the widgets that the screen tests, its edges included.
 Point widgetPlace(InputBytes& bytes) {
-    const std::span<const int> widgets = pressOrder(prefs.currentScreen);
+    const std::span<const WidgetRow> widgets = widgetsInUse();
     const int which = bytes.byte();
     const int where = bytes.byte();
     if (widgets.empty()) return {};
-    const Button& b = widget(widgets[static_cast<std::size_t>(which) % widgets.size()]);
+    const Button& b = widget(widgets[static_cast<std::size_t>(which) % widgets.size()].id);
     const int x = b.x + b.width * (where % 16) / 15;
     const int y = b.y + b.height * (where / 16) / 15;
     return {x % frameWidth, y % frameHeight};

@@ -5,18 +5,15 @@
 #include "help/help_pages.h"
 #include "help/help_texts.h"
 #include "platform/draw.h"
-#include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
 #include "shell/palette.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/menus.h"
-#include "shell/widgets/mouse.h"
 #include "shell/widgets/panels.h"
+#include "shell/widgets/screen.h"
 #include "shell/widgets/screen_lock.h"
-#include "shell/widgets/screen_poll.h"
-#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 
@@ -37,12 +34,16 @@ int& entryOf(HelpState& state) { return state.entries[static_cast<std::size_t>(s
 
 bool isTablePage(int page) { return helpEntryCount(page) > 1; }
 
-void openScreen() {
-    setWindowTitle("Help");
-    prefs.currentScreen = screen_id::help;
-    startScreenPress();
-    clickedButton = -1;
-    const HeldScreen held;
+void redrawMenu() { drawHelpMenu(helpPageLabels, widget(id::helpMenu).selected); }
+
+constexpr std::array<WidgetRow, 4> widgets{
+    {{.id = id::helpMenu, .release = releaseMenu, .redraw = redrawMenu},
+     {.id = id::next},
+     {.id = id::prev},
+     {.id = id::done}}};
+constexpr Screen helpScreen{screen_id::help, "Help", [] { return std::span<const WidgetRow>(widgets); }};
+
+void drawGround() {
     drawHeaderBar(barHeight);
     Button& done = widget(id::done);
     done.caption = "OK";
@@ -102,20 +103,26 @@ void handleKey(HelpState& state, const std::string& key) {
     if (key == keycode::left) step(state, -1);
 }
 
+bool handle(HelpState& state, const ScreenEvent& event) {
+    if (leavesScreen(event)) return false;
+    if (event.click)
+        handleClick(state, event.clicked);
+    else
+        handleKey(state, event.key);
+    return true;
+}
+
 }  // namespace
 
 void runHelpScreen() {
-    openScreen();
     HelpState state;
-    drawPage(state);
-    while (true) {
-        const ScreenEvent event = pollScreen();
-        if (event.clicked == id::done || leavesScreen(event.key)) return;
-        if (event.click)
-            handleClick(state, event.clicked);
-        else
-            handleKey(state, event.key);
-    }
+    const auto draw = [&] {
+        drawGround();
+        drawPage(state);
+    };
+    runScreen({.screen = helpScreen, .draw = draw, .handle = [&](const ScreenEvent& event) {
+                   return handle(state, event);
+               }});
 }
 
 }  // namespace gloomdeck

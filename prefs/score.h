@@ -8,7 +8,4 @@ namespace gloomdeck {
 /// Never negative; 0 for a game without turns.
 std::int32_t ComputeScore();
 
-/// Draws the score, with its standing, over the row of column counters.
-void ShowScoreLine();
-
 }  // namespace gloomdeck

@@ -1,16 +1,11 @@
 #include "rules/board_turn.h"
 
-#include "content/board_end.h"
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "shell/play/day_display.h"
-#include "shell/play/stats_column.h"
-#include "shell/widgets/messages.h"
-#include "shell/widgets/screen_lock.h"
-#include "shell/widgets/ui_state.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
@@ -35,17 +30,18 @@ void fadeHighlights() {
 }
 
 void passTime() {
-    const HeldScreen held;
+    holdScreen();
     PowersTick();
     addTo(game.turns, 1);
     DrawDayDisplay();
+    releaseScreen();
 }
 
 }  // namespace
 
 void BoardTurn() {
     if (prefs.scenarioOver) return;
-    if (!ui.messagePosted) ShowMessage(" ", 0);
+    scrollMessages();
     healByToughness();
     fadeHighlights();
     passTime();

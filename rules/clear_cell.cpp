@@ -5,13 +5,11 @@
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/dice.h"
-#include "shell/play/cell_view.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
 namespace {
-
-constexpr int revealPause = 30;
 
 constexpr std::array caveContents{enc::Skeleton, enc::Skeleton,    enc::Ghost,        enc::Ghost,
                                   enc::Chest,    enc::Backpack,    enc::Scroll,       enc::Meat,
@@ -37,8 +35,7 @@ bool leaveRemains(int col, int row) {
 
 bool ClearCell(int col, int row) {
     const bool isEmpty = leaveRemains(col, row);
-    if (!isEmpty && cell(col, row) != enc::TheEnd && !IsHiddenByEye(col, row))
-        revealWipe(col, row, revealPause);
+    if (!isEmpty && cell(col, row) != enc::TheEnd && !IsHiddenByEye(col, row)) showArrival(col, row);
     return isEmpty;
 }
 

@@ -6,7 +6,7 @@
 #include "rules/board.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "shell/widgets/messages.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 

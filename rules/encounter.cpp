@@ -8,7 +8,7 @@
 #include "rules/hero.h"
 #include "rules/loot.h"
 #include "rules/monsters.h"
-#include "shell/play/board_view.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 

@@ -4,8 +4,7 @@
 
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/play/board_view.h"
-#include "shell/play/stats_column.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 

@@ -5,7 +5,7 @@
 #include "rules/catalogue.h"
 #include "rules/dice.h"
 #include "rules/hero.h"
-#include "shell/widgets/messages.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 

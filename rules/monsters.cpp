@@ -7,9 +7,7 @@
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/dice.h"
-#include "rules/tiles.h"
-#include "shell/play/board_view.h"
-#include "shell/play/cell_view.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
@@ -17,7 +15,6 @@ namespace {
 
 constexpr int randomPicks = 6;
 constexpr int boardCells = columnCount * rowCount;
-constexpr int spreadingPause = 200;
 
 // Board places: x is the column, y the row.
 using Cell = Point;
@@ -59,10 +56,10 @@ std::optional<Cell> demonTarget() {
 }
 
 void teleport(Cell from, Cell to) {
-    if (!IsHiddenByEye(from.x, from.y)) vanishWipe(from.x, from.y);
+    if (!IsHiddenByEye(from.x, from.y)) showVanishing(from.x, from.y);
     cell(from.x, from.y) = enc::Empty;
     redrawCell(from.x, from.y);
-    if (!IsHiddenByEye(to.x, to.y)) vanishWipe(to.x, to.y);
+    if (!IsHiddenByEye(to.x, to.y)) showVanishing(to.x, to.y);
     cell(to.x, to.y) = enc::Demon;
     redrawCell(to.x, to.y);
 }
@@ -93,7 +90,7 @@ bool filthSpreads(int col, int row) {
     }
     if (!spread) return false;
     redrawCell(col, row);
-    flashTile(tile::spreading, col, row, spreadingPause);
+    flashCell(Flash::spreading, col, row);
     return true;
 }
 

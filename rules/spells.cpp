@@ -2,39 +2,17 @@
 
 #include <vector>
 
-#include "platform/draw.h"
-#include "platform/frame.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/clear_cell.h"
 #include "rules/dice.h"
 #include "rules/encounter.h"
 #include "rules/hero.h"
-#include "rules/tiles.h"
-#include "shell/palette.h"
-#include "shell/play/board_view.h"
-#include "shell/play/cell_view.h"
-#include "shell/widgets/pacing.h"
-#include "shell/widgets/places.h"
-#include "shell/widgets/screen_lock.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 
 namespace {
-
-// Milliseconds at the normal speed.
-constexpr int sunPause = 1000;
-constexpr int hitPause = 600;
-constexpr int shieldPause = 40;
-constexpr int boltStepPause = 150;
-constexpr int boltEndPause = 450;
-constexpr int blastPause = 20;
-constexpr int blinkPause = 100;
-
-constexpr int dazzleAlpha = 128;
-constexpr int sunHitAlpha = 200;
-constexpr int blastRings = 24;
-constexpr int blinks = 3;
 
 bool hasEye(int col) { return FirstEyeRow(col) != none; }
 
@@ -44,15 +22,9 @@ bool spellHits(int baseChance, int boost) {
     return baseChance != never && r <= std::int64_t{baseChance} + boost;
 }
 
-void dazzle() {
-    const HeldScreen held;
-    for (int col = 0; col < columnCount; ++col)
-        for (int row = 0; row < rowCount; ++row) overlayTile(tile::glow, col, row, dazzleAlpha);
-}
-
 void shineOnCell(int col, int row, int boost, bool eye) {
     if (!spellHits(encounterType(cell(col, row)).sunChance, boost)) return;
-    flashTile(tile::glow, col, row, hitPause, sunHitAlpha);
+    flashCell(Flash::sun, col, row);
     ClearCell(col, row);
     redrawCell(col, row);
     if (eye) drawColumn(col);
@@ -60,14 +32,14 @@ void shineOnCell(int col, int row, int boost, bool eye) {
 
 // True when the hit cell was a Hypno Eye.
 bool shieldStrikesCell(int col, int row, int boost, bool eye) {
-    flashTile(tile::shield, col, row, shieldPause);
+    flashCell(Flash::shield, col, row);
     if (eye)
         drawColumn(col);
     else
         redrawCell(col, row);
     const int code = cell(col, row);
     if (!spellHits(encounterType(code).shieldChance, boost)) return false;
-    flashTile(tile::shieldHit, col, row, hitPause);
+    flashCell(Flash::shieldHit, col, row);
     ClearCell(col, row);
     redrawCell(col, row);
     return true;
@@ -88,11 +60,8 @@ struct Bolt {
     int col;
     int boost;
     bool eye;
-    int x;
     std::vector<int> scorched;  // rows that get their scorch again at the end
 };
-
-int boltX(int col) { return boardGrid.corner(col, 0).x + Roll(26) + 3; }
 
 void boltStrikesCell(Bolt& bolt, int row) {
     const int col = bolt.col;
@@ -101,29 +70,8 @@ void boltStrikesCell(Bolt& bolt, int row) {
     ClearCell(col, row);
     redrawCell(col, row);
     const bool isEmpty = cell(col, row) == enc::Empty;
-    if (isEmpty || bolt.eye) drawTileInCell(tile::scorch, col, row);
+    if (isEmpty || bolt.eye) showScorch(col, row);
     if (isEmpty && !bolt.eye) bolt.scorched.push_back(row);
-}
-
-void drawBoltThrough(Bolt& bolt, int row) {
-    const int top = boardGrid.corner(bolt.col, row).y;
-    const int x = boltX(bolt.col);
-    for (const int d : {0, -1, -2, 1, 2})
-        drawLine(bolt.x + d, top + tile::size - 1, x + d, top, colour::yellow);
-    bolt.x = x;
-    Delay(boltStepPause);
-}
-
-void blastAt(int col, int row) {
-    const Point corner = boardGrid.corner(col, row);
-    const int x = corner.x + tile::size / 2;
-    const int y = corner.y + tile::size / 2;
-    const ClipTo clip{boardGrid.area()};
-    for (int ring = 1; ring <= blastRings; ++ring) {
-        drawCircle(x, y, 2 * ring, colour::yellow);
-        Delay(blastPause);
-        drawCircle(x, y, 2 * ring, colour::black);
-    }
 }
 
 int blastChance(bool sameColumn, bool sameRow) { return (sameColumn ? 75 : 50) + (sameRow ? 25 : 0); }
@@ -132,9 +80,9 @@ int blastChance(bool sameColumn, bool sameRow) { return (sameColumn ? 75 : 50) +
 bool blastCell(int col, int row, int chance) {
     const int r = Roll(100);
     if (r > chance || IsEmptyOrEnd(cell(col, row))) return false;
-    blinkCell(tile::bomb, col, row, blinks, blinkPause);
+    showBlastHit(col, row);
     cell(col, row) = enc::Empty;
-    drawTileInCell(tile::scorch, col, row);
+    showScorch(col, row);
     return true;
 }
 
@@ -150,8 +98,7 @@ void blastColumn(int col, int centreCol, int centreRow) {
 }  // namespace
 
 void CastSun() {
-    dazzle();
-    Delay(sunPause);
+    showSunlight();
     drawBoard();
     const int boost = level(sunBoost);
     for (int col = 0; col < columnCount; ++col) {
@@ -171,22 +118,22 @@ void CastShield() {
 
 void CastLightning(int redrawFirst, int col) {
     if (redrawFirst == 1) drawColumn(col);
-    Bolt bolt{
-        .col = col, .boost = level(lightningBoost), .eye = hasEye(col), .x = boltX(col), .scorched = {}};
+    Bolt bolt{.col = col, .boost = level(lightningBoost), .eye = hasEye(col), .scorched = {}};
+    startBolt(col);
     for (int row = bottomRow; row >= 0; --row) {
         boltStrikesCell(bolt, row);
-        drawBoltThrough(bolt, row);
+        showBoltStep(col, row);
         if (cell(col, row) == enc::TheEnd) break;
     }
-    Delay(boltEndPause);
+    endBolt();
     drawColumn(col);
-    for (const int row : bolt.scorched) drawTileInCell(tile::scorch, col, row);
+    for (const int row : bolt.scorched) showScorch(col, row);
     AddItem(lightningBolts, -1);
 }
 
 void DropBomb(int redrawFirst, int spend, int col, int row) {
     if (redrawFirst == 1) drawColumn(col);
-    blastAt(col, row);
+    showBlast(col, row);
     drawBoard();
     for (int c = col - 1; c <= col + 1; ++c)
         if (InBounds(c, row)) blastColumn(c, col, row);
@@ -197,7 +144,7 @@ int UseHand(int col, int row) {
     const int code = cell(col, row);
     const int eyeRow = FirstEyeRow(col);
     if (IsEmptyOrEnd(code) || IsPastEnd(col, row) || !Encounter(col, row, 1)) return 0;
-    if (cell(col, row) == enc::Empty) shrinkTile(encounterType(code).tile, col, row);
+    if (cell(col, row) == enc::Empty) showShrinking(code, col, row);
     if (count(hands) >= 1) AddItem(hands, -1);
     redrawCell(col, row);
     if (eyeRow != none && eyeRow < row) drawColumn(col);

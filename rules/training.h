@@ -1,9 +1,7 @@
-// Spending gold: the rows of the training screen and their purchases.
+// Spending gold: what is for sale, and the purchases.
 #pragma once
-
 #include <array>
 #include <cstdint>
-#include <string>
 
 #include "rules/codes.h"
 
@@ -17,14 +15,13 @@ struct TradeOffer {
 
 inline constexpr int tradeOfferCount = 3;
 extern const std::array<TradeOffer, tradeOfferCount> TradeOffers;
+const TradeOffer& tradeOffer(int offer);
 
-/// Buys 5 percentage points of a skill, or what an offer offers; with too little gold a message says so.
-void Train(int skill);
-void Trade(int offer);
+inline constexpr int highestTrainable = 90;
 
-void DrawTrainingRow(int skill);
-void DrawTradeRow(int offer);
-void DrawTrainingGold();
-void ShowTrainingMessage(const std::string& text);
+/// Buys 5 percentage points of a skill, or what an offer offers; false with too little gold, and nothing
+/// changes.
+bool buyTraining(int skill);
+bool buyOffer(int offer);
 
 }  // namespace gloomdeck

@@ -4,6 +4,7 @@
 #include "platform/question.h"
 #include "prefs/saved_data.h"
 #include "shell/widgets/mouse.h"
+#include "shell/widgets/press.h"
 #include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
@@ -18,7 +19,7 @@ int confirm(const std::string& question, int skip) {
     dropPress();
     const bool yes = skip == 1 || askYesNo(question, "confirm");
     dropKeys();
-    startScreenPress();  // a press that began in the question was the question's
+    restartPress();  // a press that began in the question was the question's
     return yes ? 1 : 0;
 }
 

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "autoplayer/autoplayer.h"
-#include "content/board_end.h"
 #include "content/campaign_flow.h"
 #include "content/game_flow.h"
 #include "content/screens/game_selection.h"
@@ -27,8 +26,8 @@
 #include "shell/play/target_mode.h"
 #include "shell/play_screen.h"
 #include "shell/widgets/layout.h"
-#include "shell/widgets/mouse.h"
 #include "shell/widgets/pacing.h"
+#include "shell/widgets/press.h"
 #include "shell/widgets/tile_set.h"
 #include "shell/widgets/ui_state.h"
 
@@ -50,10 +49,19 @@ void replayGame() {
     enterPlayScreen();
 }
 
+[[noreturn]] void leaveProgram() {
+    shutDown();
+    endProgram(0);
+}
+
+void chooseGame() {
+    if (!runGameSelection()) leaveProgram();
+    enterPlayScreen();
+}
+
 void openSelection() {
     if (confirm("Really quit game and return to main menu?", isGameOver() ? 1 : 0) == 0) return;
-    runGameSelection();
-    enterPlayScreen();
+    chooseGame();
 }
 
 void openScreen(void (*screen)()) {
@@ -152,8 +160,10 @@ void startUp() {
     loadTiles();
     pressedWidget = notPressed;
     if (!LoadSavedData()) ApplyDefaults();
-    if (prefs.currentScreen == screen_id::selection) runGameSelection();
-    enterPlayScreen();
+    if (prefs.currentScreen == screen_id::selection)
+        chooseGame();
+    else
+        enterPlayScreen();
 }
 
 void runMainLoop() {
@@ -163,8 +173,7 @@ void runMainLoop() {
 void runGloomdeck() {
     startUp();
     runMainLoop();
-    shutDown();
-    endProgram(0);
+    leaveProgram();
 }
 
 }  // namespace gloomdeck

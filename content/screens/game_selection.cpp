@@ -10,21 +10,16 @@
 #include "content/story_texts.h"
 #include "platform/draw.h"
 #include "platform/font.h"
-#include "platform/frame.h"
 #include "platform/input.h"
-#include "platform/system.h"
 #include "prefs/prefs.h"
 #include "rules/tiles.h"
-#include "shell/lifecycle.h"
 #include "shell/palette.h"
 #include "shell/play/describe.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/menus.h"
-#include "shell/widgets/mouse.h"
 #include "shell/widgets/panels.h"
+#include "shell/widgets/screen.h"
 #include "shell/widgets/screen_lock.h"
-#include "shell/widgets/screen_poll.h"
-#include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
 
@@ -92,12 +87,17 @@ void placeWidgets() {
     widget(id::selectionExit).caption = "Exit";
 }
 
-void openScreen(Selection& s) {
-    setWindowTitle("Select a game");
-    prefs.currentScreen = screen_id::selection;
-    startScreenPress();
-    clickedButton = -1;
-    const HeldScreen held;
+void redrawTabs() { drawTabs(widget(id::tabs).selected); }
+
+constexpr std::array<WidgetRow, 4> widgets{
+    {{.id = id::list, .release = releaseMenu, .redraw = drawSelectionList},
+     {.id = id::tabs, .release = releaseMenu, .redraw = redrawTabs},
+     {.id = id::done},
+     {.id = id::selectionExit}}};
+constexpr Screen selectionScreen{screen_id::selection, "Select a game",
+                                 [] { return std::span<const WidgetRow>(widgets); }};
+
+void drawGround(Selection& s) {
     clearScreen();
     drawHeaderBar(barHeight);
     placeWidgets();
@@ -203,10 +203,16 @@ Outcome handleKey(Selection& s, const std::string& key) {
 
 Outcome runUntilDecided(Selection& s) {
     Outcome outcome = Outcome::open;
-    while (outcome == Outcome::open) {
-        const ScreenEvent event = pollScreen(s.nextBlink);
+    const auto draw = [&] {
+        drawGround(s);
+        drawChoice(s);
+    };
+    const auto handle = [&](const ScreenEvent& event) {
         outcome = event.click ? handleClick(s, event.clicked) : handleKey(s, event.key);
-    }
+        return outcome == Outcome::open;
+    };
+    runScreen(
+        {.screen = selectionScreen, .draw = draw, .handle = handle, .wakeUp = [&] { return s.nextBlink; }});
     return outcome;
 }
 
@@ -219,16 +225,12 @@ void storeChoice(const Selection& s) {
 
 }  // namespace
 
-void runGameSelection() {
+bool runGameSelection() {
     Selection s = selectionFromPrefs();
-    openScreen(s);
-    drawChoice(s);
-    if (runUntilDecided(s) == Outcome::exit) {
-        shutDown();
-        endProgram(0);
-    }
+    if (runUntilDecided(s) == Outcome::exit) return false;
     storeChoice(s);
     startNewGame();
+    return true;
 }
 
 }  // namespace gloomdeck

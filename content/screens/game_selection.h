@@ -3,8 +3,8 @@
 
 namespace gloomdeck {
 
-/// Shows the screen until a game is started; then the preferences hold the choice and the game is set up.
-/// Leaving with Exit saves and ends the program.
-void runGameSelection();
+/// Shows the screen until a game is started: true, the preferences hold the choice and the game is set up.
+/// False when the player leaves the program instead; nothing is stored then.
+bool runGameSelection();
 
 }  // namespace gloomdeck

@@ -4,17 +4,13 @@
 #include <string>
 
 #include "platform/draw.h"
-#include "platform/frame.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
 #include "shell/palette.h"
 #include "shell/widgets/layout.h"
-#include "shell/widgets/mouse.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/panels.h"
-#include "shell/widgets/screen_lock.h"
-#include "shell/widgets/screen_poll.h"
-#include "shell/widgets/ui_state.h"
+#include "shell/widgets/screen.h"
 
 namespace gloomdeck {
 
@@ -48,7 +44,6 @@ void placeDone() {
 
 void drawWidgets() {
     drawPanel(panel.x1, panel.y1, panel.x2 - panel.x1, panel.y2 - panel.y1);
-    prefs.currentScreen = screen_id::preferences;
     widget(id::done).caption = "Done";
     for (const int button : {id::done, id::speedUp, id::speedDown}) drawButton(widget(button));
     drawText(widget(id::toggle).x + 62, widget(id::toggle).y - 12, "Autoplayer");
@@ -60,11 +55,20 @@ void drawWidgets() {
     DrawSpeedRow();
 }
 
-void openScreen() {
-    setWindowTitle("Preferences");
-    startScreenPress();
-    clickedButton = -1;
-    const HeldScreen held;
+constexpr std::array<WidgetRow, 10> widgets{{{id::speedUp},
+                                             {id::speedDown},
+                                             {id::done},
+                                             {id::toggle},
+                                             {id::toggle + 1},
+                                             {id::toggle + 2},
+                                             {id::toggle + 3},
+                                             {id::toggle + 4},
+                                             {id::toggle + 5},
+                                             {id::toggle + 6}}};
+constexpr Screen preferencesScreen{screen_id::preferences, "Preferences",
+                                   [] { return std::span<const WidgetRow>(widgets); }};
+
+void draw() {
     placeDone();
     drawWidgets();
 }
@@ -86,6 +90,15 @@ void handleClick(int clicked) {
 void handleKey(const std::string& key) {
     if (key == "+") changeSpeed(speedUp);
     if (key == "-") changeSpeed(speedDown);
+}
+
+bool handle(const ScreenEvent& event) {
+    if (leavesScreen(event)) return false;
+    if (event.click)
+        handleClick(event.clicked);
+    else
+        handleKey(event.key);
+    return true;
 }
 
 }  // namespace
@@ -112,16 +125,6 @@ void DrawSpeedRow() {
     centredText(SpeedName(prefs.GameSpeed), roundedRatio(up.x + down.x + down.width, 2), down.y + 5);
 }
 
-void RunPreferencesScreen() {
-    openScreen();
-    while (true) {
-        const ScreenEvent event = pollScreen();
-        if (event.clicked == id::done || leavesScreen(event.key)) return;
-        if (event.click)
-            handleClick(event.clicked);
-        else
-            handleKey(event.key);
-    }
-}
+void RunPreferencesScreen() { runScreen({.screen = preferencesScreen, .draw = draw, .handle = handle}); }
 
 }  // namespace gloomdeck

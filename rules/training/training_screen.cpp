@@ -1,39 +1,42 @@
 #include "rules/training/training_screen.h"
 
-#include "platform/frame.h"
+#include <array>
+
 #include "prefs/prefs.h"
 #include "rules/catalogue.h"
 #include "rules/training.h"
-#include "shell/widgets/layout.h"
-#include "shell/widgets/mouse.h"
+#include "rules/training/training_rows.h"
 #include "shell/widgets/panels.h"
-#include "shell/widgets/screen_lock.h"
-#include "shell/widgets/screen_poll.h"
-#include "shell/widgets/ui_state.h"
+#include "shell/widgets/screen.h"
 
 namespace gloomdeck {
 
 namespace {
 
 constexpr int barHeight = 392;
+constexpr Point donePlace{185, 368};
 
-void openScreen() {
-    setWindowTitle("Train or trade");
-    const HeldScreen held;
-    prefs.currentScreen = screen_id::training;
+constexpr std::array<WidgetRow, 10> widgets{{{id::done},
+                                             {id::training},
+                                             {id::training + 1},
+                                             {id::training + 2},
+                                             {id::training + 3},
+                                             {id::training + 4},
+                                             {id::training + 5},
+                                             {id::training + 6},
+                                             {id::training + 7},
+                                             {id::training + 8}}};
+constexpr Screen trainingScreen{screen_id::training, "Train or trade",
+                                [] { return std::span<const WidgetRow>(widgets); }};
+
+void draw() {
     Button& done = widget(id::done);
-    placeButton(done, 185, 368);
+    placeButton(done, donePlace.x, donePlace.y);
     done.caption = "Done";
+    done.pressCol = -1;
     drawHeaderBar(barHeight);
     drawButton(done);
     DrawTrainingGold();
-    done.pressCol = -1;
-    clickedButton = -1;
-    restartPress();
-}
-
-void drawRows() {
-    const HeldScreen held;
     for (int skill = 0; skill < skillCount; ++skill) DrawTrainingRow(skill);
     for (int offer = 0; offer < tradeOfferCount; ++offer) DrawTradeRow(offer);
     if (!TrainingAvailable() && !TradingAvailable()) ShowTrainingMessage("You can't trade or train here!");
@@ -45,16 +48,14 @@ void buy(int button) {
     if (row >= skillCount && row < trainingRows) Trade(row - skillCount);
 }
 
+bool handle(const ScreenEvent& event) {
+    if (leavesScreen(event)) return false;
+    if (event.click) buy(event.clicked);
+    return true;
+}
+
 }  // namespace
 
-void TrainingScreen() {
-    openScreen();
-    drawRows();
-    while (true) {
-        const ScreenEvent event = pollScreen();
-        if (event.clicked == id::done || leavesScreen(event.key)) return;
-        if (event.click) buy(event.clicked);
-    }
-}
+void TrainingScreen() { runScreen({.screen = trainingScreen, .draw = draw, .handle = handle}); }
 
 }  // namespace gloomdeck

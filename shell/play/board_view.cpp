@@ -1,4 +1,4 @@
-#include "shell/play/board_view.h"
+// Drawing the board: columns with their terrain, what an eye hides, counters and names.
 
 #include <string>
 
@@ -8,6 +8,7 @@
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/dice.h"
+#include "rules/show.h"
 #include "shell/palette.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/screen_lock.h"

@@ -1,10 +1,11 @@
-#include "shell/play/day_display.h"
+// The turn counter's picture above the stats column: four turns make a day.
 
 #include <array>
 #include <string>
 
 #include "platform/draw.h"
 #include "rules/game_state.h"
+#include "rules/show.h"
 #include "shell/palette.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/tile_set.h"

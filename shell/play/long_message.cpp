@@ -1,8 +1,8 @@
 #include "shell/play/long_message.h"
 
 #include "platform/draw.h"
+#include "rules/show.h"
 #include "shell/palette.h"
-#include "shell/play/board_view.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
@@ -33,6 +33,11 @@ void showLongMessage(const std::string& text) {
     drawStoryPanel(text);
     waitForAck(" ");
     drawBoard();
+}
+
+void showStory(std::string_view text) {
+    drawBackground();
+    showLongMessage(std::string(text));
 }
 
 }  // namespace gloomdeck

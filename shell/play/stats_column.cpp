@@ -6,6 +6,7 @@
 #include "platform/draw.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
+#include "rules/show.h"
 #include "shell/palette.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/tile_set.h"

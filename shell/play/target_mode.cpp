@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
+#include "rules/show.h"
 #include "shell/play/play_pieces.h"
-#include "shell/widgets/messages.h"
 #include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "prefs/prefs.h"
 #include "shell/widgets/places.h"
 
 namespace gloomdeck {
@@ -50,18 +49,6 @@ constexpr std::array placements{
     Placement{id::speedUp,        252,     124,       16,          16,  16,          16, "+"},
     Placement{id::speedDown,      140,     124,       16,          16,  16,          16, "-"},
 };
-
-constexpr std::array selectionOrder{id::list, id::tabs, id::done, id::selectionExit};
-constexpr std::array playOrder{id::board, id::stats, id::newGame, id::exit, id::replay, id::help, id::prefs,
-                               id::continueGame};
-constexpr std::array clearedPlayOrder{id::newGame, id::exit, id::replay, id::help, id::prefs, id::continueGame};
-constexpr std::array helpOrder{id::helpMenu, id::next, id::prev, id::done};
-constexpr std::array preferencesOrder{id::speedUp, id::speedDown, id::done,
-                                      id::toggle, id::toggle + 1, id::toggle + 2, id::toggle + 3, id::toggle + 4,
-                                      id::toggle + 5, id::toggle + 6};
-constexpr std::array trainingOrder{id::done, id::training, id::training + 1, id::training + 2, id::training + 3,
-                                   id::training + 4, id::training + 5, id::training + 6, id::training + 7,
-                                   id::training + 8};
 // clang-format on
 
 void placeWidget(const Placement& p) {
@@ -108,18 +95,5 @@ void layOutWidgets() {
         widget(bottom).hotkeyLetter = true;
     widget(id::continueGame).hidden = true;
 }
-
-std::span<const int> pressOrder(int screenId) {
-    switch (screenId) {
-        case screen_id::selection: return selectionOrder;
-        case screen_id::play: return prefs.scenarioOver ? std::span<const int>(clearedPlayOrder) : playOrder;
-        case screen_id::help: return helpOrder;
-        case screen_id::preferences: return preferencesOrder;
-        case screen_id::training: return trainingOrder;
-        default: return {};
-    }
-}
-
-bool isCompound(int widgetId) { return widgetId <= id::tabs || widgetId == id::helpMenu; }
 
 }  // namespace gloomdeck

@@ -1,7 +1,5 @@
-// Every widget of every screen: its id, its place at the start, and which screen tests it on a press.
+// Every widget of every screen: its id, and its place at the start.
 #pragma once
-
-#include <span>
 
 #include "shell/widgets/button.h"
 
@@ -39,11 +37,5 @@ Button& widget(int widgetId);
 
 /// Initialises every record and gives it its place at the start.
 void layOutWidgets();
-
-/// The widgets that a press is tested on, in order; empty for a screen that is none.
-std::span<const int> pressOrder(int screenId);
-
-/// True for the widgets that are no plain button: grids, menus and the list.
-bool isCompound(int widgetId);
 
 }  // namespace gloomdeck

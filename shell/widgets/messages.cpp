@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/draw.h"
+#include "rules/show.h"
 #include "shell/palette.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
@@ -49,6 +50,10 @@ void ShowMessage(std::string_view text, int mark) {
         drawBar();
     }
     if (!text.empty() && mark == 1) ui.messagePosted = true;
+}
+
+void scrollMessages() {
+    if (!ui.messagePosted) ShowMessage(" ", 0);
 }
 
 void clearMessages() {

@@ -13,10 +13,6 @@ struct MessageBar {
 
 extern MessageBar messageBar;
 
-/// Posts a line; mark 1 makes it the action's own message, which the board turn does not scroll away. A text
-/// of spaces scrolls the bar up by an empty line, an empty text only redraws it.
-void ShowMessage(std::string_view text, int mark);
-
 /// Empties the lines without drawing.
 void clearMessages();
 

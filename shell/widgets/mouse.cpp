@@ -1,154 +1,116 @@
 #include "shell/widgets/mouse.h"
 
-#include "content/screens/selection_list.h"
-#include "help/help_texts.h"
+#include <algorithm>
+
 #include "platform/input.h"
-#include "prefs/prefs.h"
-#include "shell/play/board_view.h"
-#include "shell/play/play_pieces.h"
-#include "shell/play/stats_column.h"
-#include "shell/play_clicks.h"
 #include "shell/widgets/hit_test.h"
-#include "shell/widgets/layout.h"
-#include "shell/widgets/menus.h"
-#include "shell/widgets/places.h"
-#include "shell/widgets/ui_state.h"
+#include "shell/widgets/press.h"
 
 namespace gloomdeck {
 
 namespace {
 
 Button pressedButtonCopy;
-bool ignoreHold = false;  // the button is still down from another screen, or from before the pointer left
+WidgetTable widgetTable = nullptr;
 
-bool buttonIsHeld() { return inputQueue().handedDown; }
-
-void endHover(int gridWidget) {
-    widget(gridWidget).hoverCol = -1;
-    clearInfoArea();
+const WidgetRow* rowOf(int widgetId) {
+    const auto rows = widgetsInUse();
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [=](const auto& row) { return row.id == widgetId; });
+    return found == rows.end() ? nullptr : &*found;
 }
 
+void leaveHover(const WidgetRow& row) {
+    Button& grid = widget(row.id);
+    if (grid.hoverCol != -1) row.leave(grid);
+    grid.hoverCol = -1;
+}
+
+void hoverOver(const WidgetRow& row, const MouseState& mouse) {
+    Button& grid = widget(row.id);
+    const Point at = cellUnder(grid, mouse.x, mouse.y);
+    if (grid.hoverCol == at.x && grid.hoverRow == at.y) return;
+    leaveHover(row);
+    grid.hoverCol = at.x;
+    grid.hoverRow = at.y;
+    row.hover(grid);
+}
+
+// Leaving comes before entering, so that a jump from one grid to another keeps the new description.
 void hover(const MouseState& mouse) {
-    if (prefs.currentScreen != screen_id::play || prefs.scenarioOver) return;
-    // Leaving comes before entering, so that a jump from one grid to the other keeps the new description.
-    const bool overBoard = contains(boardGrid.area(), mouse.x, mouse.y);
-    const bool overStats = contains(statsGrid.area(), mouse.x, mouse.y);
-    if (!overBoard) leaveHover(widget(id::board));
-    if (!overStats) leaveHover(widget(id::stats));
-    hitTest(widget(id::board), mouse.x, mouse.y, Phase::hover);
-    hitTest(widget(id::stats), mouse.x, mouse.y, Phase::hover);
+    for (const bool over : {false, true})
+        for (const WidgetRow& row : widgetsInUse()) {
+            if (row.hover == nullptr ||
+                hitTest(widget(row.id), mouse.x, mouse.y, Phase::hover) != (over ? 1 : 0))
+                continue;
+            if (over)
+                hoverOver(row, mouse);
+            else
+                leaveHover(row);
+        }
 }
 
 void press(const MouseState& mouse) {
     pressedWidget = pressedNothing;
-    for (const int candidate : pressOrder(prefs.currentScreen)) {
-        if (!hitTest(widget(candidate), mouse.x, mouse.y, Phase::press)) continue;
-        pressedWidget = candidate;
-        if (!isCompound(candidate)) copyButton(pressedButtonCopy, widget(candidate));
+    for (const WidgetRow& row : widgetsInUse()) {
+        if (!hitTest(widget(row.id), mouse.x, mouse.y, Phase::press)) continue;
+        pressedWidget = row.id;
+        copyButton(pressedButtonCopy, widget(row.id));
         return;
     }
 }
 
-int releaseOnBoard(const MouseState& mouse) {
-    Button& board = widget(id::board);
-    const int col = board.pressCol;
-    int answer = 0;
-    if (hitTest(board, mouse.x, mouse.y, Phase::release)) {
-        answer = clickBoard(col, board.pressRow);
-        endHover(id::board);
-    }
-    if (!answer) drawColumn(col);
-    return answer;
-}
-
-int releaseOnStats() {
-    const int row = widget(id::stats).pressRow;
-    const int answer = clickStats(row);
-    drawStatsCell(row);
-    endHover(id::stats);
-    return answer;
-}
-
-void redrawCompound(int widgetId) {
-    const int selected = widget(widgetId).selected;
-    switch (widgetId) {
-        case id::list: return drawSelectionList();
-        case id::tabs: return drawTabs(selected);
-        default: return drawHelpMenu(helpPageLabels, selected);
-    }
-}
-
 // The item under the press; tabs lie side by side, lists and the help menu below each other.
-std::int32_t& pressedItem(Button& b, int widgetId) { return widgetId == id::tabs ? b.pressCol : b.pressRow; }
-
-int releaseOnMenu(int widgetId, const MouseState& mouse) {
-    Button& menu = widget(widgetId);
-    std::int32_t& item = pressedItem(menu, widgetId);
-    if (hitTest(menu, mouse.x, mouse.y, Phase::release) && item != menu.selected) return 1;
-    item = menu.selected;
-    redrawCompound(widgetId);
-    return 0;
-}
-
-int releaseOnButton(int widgetId, const MouseState& mouse) {
-    drawButton(pressedButtonCopy);
-    const bool hit = hitTest(pressedButtonCopy, mouse.x, mouse.y, Phase::release) != 0;
-    clickedButton = hit ? widgetId : -1;
-    return hit ? 1 : 0;
-}
-
-int release(int released, const MouseState& mouse) {
-    switch (released) {
-        case pressedNothing: return 0;
-        case id::board: return releaseOnBoard(mouse);
-        case id::stats: return releaseOnStats();
-        case id::list:
-        case id::tabs:
-        case id::helpMenu: return releaseOnMenu(released, mouse);
-        default: return releaseOnButton(released, mouse);
-    }
-}
-
-void removePressedLook() {
-    switch (pressedWidget) {
-        case id::board: return drawColumn(widget(id::board).pressCol);
-        case id::stats: return drawStatsCell(widget(id::stats).pressRow);
-        case id::list:
-        case id::tabs:
-        case id::helpMenu: return redrawCompound(pressedWidget);
-        default: return drawButton(pressedButtonCopy);
-    }
+std::int32_t& pressedItem(Button& menu) {
+    return menu.cellWidth < menu.width ? menu.pressCol : menu.pressRow;
 }
 
 }  // namespace
+
+void useWidgets(WidgetTable table) { widgetTable = table; }
+
+std::span<const WidgetRow> widgetsInUse() {
+    return widgetTable == nullptr ? std::span<const WidgetRow>() : widgetTable();
+}
+
+void redrawPressedButton() { drawButton(pressedButtonCopy); }
+
+int releaseButton(const WidgetRow& row, const MouseState& mouse) {
+    row.redraw();
+    const bool hit = hitTest(pressedButtonCopy, mouse.x, mouse.y, Phase::release) != 0;
+    clickedButton = hit ? row.id : -1;
+    return hit ? 1 : 0;
+}
+
+int releaseMenu(const WidgetRow& row, const MouseState& mouse) {
+    Button& menu = widget(row.id);
+    std::int32_t& item = pressedItem(menu);
+    if (hitTest(menu, mouse.x, mouse.y, Phase::release) && item != menu.selected) return 1;
+    item = menu.selected;
+    row.redraw();
+    return 0;
+}
 
 int handleMouse() {
     const MouseState mouse = getMouse();
     const bool outside = mouse.status != 0;
     const bool down = leftIsHeld(mouse);
-    ignoreHold = buttonIsHeld() && (ignoreHold || outside);
+    const bool ignored = holdIsIgnored(outside);
     if (pressedWidget == notPressed) {
         // A pointer outside presses nothing, so that the click with which it comes back is seen.
-        if (outside || ignoreHold) return 0;
+        if (outside || ignored) return 0;
         hover(mouse);  // also before a press, which may come to a new place at once
         if (down) press(mouse);
         return 0;
     }
     if (down) return 0;
-    const int released = pressedWidget;
+    const WidgetRow* const released = rowOf(pressedWidget);
     pressedWidget = notPressed;
-    return release(released, mouse);
-}
-
-void startScreenPress() { pressedWidget = buttonIsHeld() ? pressedNothing : notPressed; }
-
-void restartPress() {
-    pressedWidget = notPressed;
-    ignoreHold = buttonIsHeld();
+    return released == nullptr ? 0 : released->release(*released, mouse);
 }
 
 void dropPress() {
-    if (pressedWidget > 0) removePressedLook();
+    if (const WidgetRow* const row = rowOf(pressedWidget)) row->redraw();
     if (pressedWidget != notPressed) pressedWidget = pressedNothing;
 }
 

@@ -6,7 +6,7 @@
 #include "platform/input.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
-#include "shell/widgets/messages.h"
+#include "rules/show.h"
 
 namespace gloomdeck {
 

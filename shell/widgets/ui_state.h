@@ -1,4 +1,4 @@
-// What the screens keep while the program runs: targeting, the pass's flags, the press.
+// What the screens keep while the program runs: targeting, the pass's flags, the lock.
 #pragma once
 
 #include <cstdint>
@@ -21,11 +21,5 @@ struct UiState {
 };
 
 extern UiState ui;
-
-inline constexpr int notPressed = -1;      ///< pressedWidget while the button is up
-inline constexpr int pressedNothing = -2;  ///< pressedWidget while a press that hit nothing is held
-
-extern std::int32_t pressedWidget;  ///< the widget's id while the button is held over it
-extern std::int32_t clickedButton;  ///< the button whose click completed in this pass, or -1
 
 }  // namespace gloomdeck

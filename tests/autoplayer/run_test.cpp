@@ -1,7 +1,9 @@
 // Runs: what stops them, what is spent on grief, and what every move takes with it.
 #include "shell/palette.h"
+#include "rules/show.h"
 #include "shell/widgets/mouse.h"
 #include "shell/widgets/places.h"
+#include "shell/widgets/press.h"
 #include "tests/autoplayer/autoplayer_test.h"
 
 namespace gloomdeck {
@@ -44,7 +46,7 @@ TEST_F(AutoplayerTest, PressesTheButtonThatStoppedItOnNothing) {
     buttonChanged(inputQueue(), true);
     EXPECT_EQ(movesPlayed(), 1);
     EXPECT_EQ(handleMouse(), 0);
-    EXPECT_EQ(pressedWidget, pressedNothing);
+    EXPECT_EQ(pressedWidget, notPressed);
     EXPECT_TRUE(CancelRequested()) << "as long as it is held";
     pointerLeft(inputQueue());
     EXPECT_FALSE(CancelRequested());

@@ -1,12 +1,14 @@
 // Campaigns: their stages, their story pages, and the hero who goes through them.
 #include <cstring>
 
-#include "content/board_end.h"
+#include "shell/play/board_end.h"
 #include "content/campaign_flow.h"
 #include "content/campaigns.h"
 #include "content/game_flow.h"
+#include "rules/show.h"
 #include "rules/tiles.h"
 #include "shell/palette.h"
+#include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 

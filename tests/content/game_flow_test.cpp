@@ -2,8 +2,10 @@
 
 #include <cstring>
 
+#include "rules/show.h"
 #include "rules/tiles.h"
 #include "shell/palette.h"
+#include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 

@@ -6,7 +6,8 @@
 #include "content/game_flow.h"
 #include "platform/frame.h"
 #include "rules/tiles.h"
-#include "shell/widgets/layout.h"
+#include "shell/play/play_view.h"
+#include "shell/widgets/mouse.h"
 #include "shell/widgets/places.h"
 #include "tests/support/script.h"
 
@@ -23,8 +24,8 @@ using Rects = std::vector<Rect>;
 // The middles of all cells of all widgets that the current screen tests on a press.
 std::vector<Point> pressPlaces() {
     std::vector<Point> places;
-    for (const int widgetId : pressOrder(prefs.currentScreen)) {
-        const Button& b = widget(widgetId);
+    for (const WidgetRow& row : widgetsInUse()) {
+        const Button& b = widget(row.id);
         if (b.hidden) continue;
         for (int y = b.y + b.cellHeight / 2; y < b.y + b.height; y += b.cellHeight)
             for (int x = b.x + b.cellWidth / 2; x < b.x + b.width; x += b.cellWidth) places.push_back({x, y});

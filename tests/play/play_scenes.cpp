@@ -56,7 +56,7 @@ void playPieces(StagedPlay& play) {
         play.key("\x1B").click(statsCell(item)).click(statsCell(keys));
     }
     scene(play, "play, all held", everyCode);
-    holdEveryWidget(play, screen_id::play);
+    holdAll(play, playWidgets);
     scene(play, "stats row held", [] {});
     for (int item = 0; item < itemCount; ++item)
         if (item != gold && item != suns && item != shields) holdAndLetGo(play, statsCell(item));
@@ -87,7 +87,7 @@ void playPieces(StagedPlay& play) {
             game.scoreStanding = standing;
         });
         play.move(boardCell(2, 2)).click(statsCell(bombs));
-        holdEveryWidget(play, screen_id::play);
+        holdAll(play, playWidgets);
     }
     scene(play, "powers run out", [] {
         game.powers = {2, 3, 1};

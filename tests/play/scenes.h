@@ -1,5 +1,6 @@
 // The scenes of the signature: every screen, every state of it, every animation.
 #pragma once
+#include "shell/widgets/layout.h"
 #include "tests/support/signature.h"
 
 namespace gloomdeck {
@@ -10,8 +11,12 @@ inline constexpr Point nothing{404, 300};
 /// Presses there and lets go where nothing is; what was pressed comes back as it was.
 void holdAndLetGo(StagedPlay& play, Point at);
 
-/// The same on every widget that the screen tests.
-void holdEveryWidget(StagedPlay& play, int screenId);
+/// The same on each of those widgets.
+void holdAll(StagedPlay& play, const std::vector<int>& widgets);
+
+/// Those of the play screen but for the stats column, which counts wherever it is let go.
+inline const std::vector<int> playWidgets{id::board,  id::newGame, id::exit,        id::replay,
+                                          id::help,   id::prefs,   id::continueGame};
 
 /// Begins a step on the play screen: a hero with twenty of everything, an empty board of seven terrains in
 /// its second turn at normal speed, and what prepare changes of that, drawn afresh.

@@ -16,7 +16,7 @@ void playTitleAndSelection(StagedPlay& play) {
     play.step("selection, a tab clicked").click({125, 16});
     for (int row = 0; row < 7; ++row) play.key(keycode::down);
     play.step("selection, all held");
-    holdEveryWidget(play, screen_id::selection);
+    holdAll(play, {id::list, id::tabs, id::done, id::selectionExit});
     play.step("selection, the cursor").wait(0.3).wait(0.3).wait(0.3);
     play.step("selection, a name").type("\b\b\b\b\b\b\b\b\b\bA hero of renown of");
     play.step("selection, a name cut")
@@ -35,7 +35,7 @@ void playPreferences(StagedPlay& play) {
     for (int i = 0; i < 7; ++i) play.key("-");
     for (int row = 0; row < toggleRows; ++row) play.button(id::toggle + row);
     play.step("preferences, all held");
-    holdEveryWidget(play, screen_id::preferences);
+    holdAll(play, {id::speedUp, id::speedDown, id::done, 30, 31, 32, 33, 34, 35, 36});
     play.button(id::done);
 }
 
@@ -48,7 +48,7 @@ void playTraining(StagedPlay& play) {
     play.key("T");
     for (int row = 0; row < trainingRows; ++row) play.button(id::training + row).button(id::training + row);
     play.step("training, all held");
-    holdEveryWidget(play, screen_id::training);
+    holdAll(play, {id::done, 21, 22, 23, 24, 25, 26, 27, 28, 29});
     play.button(id::done);
     scene(play, "training without gold", [] { count(gold) = 9; });
     play.click(statsCell(gold));
@@ -69,7 +69,7 @@ void playHelp(StagedPlay& play) {
         for (int entry = 1; entry < helpEntryCount(page); ++entry) play.key(keycode::right);
         play.button(id::next).button(id::prev);
         play.step("help page " + std::to_string(page) + ", all held");
-        holdEveryWidget(play, screen_id::help);
+        holdAll(play, {id::helpMenu, id::next, id::prev, id::done});
     }
     play.step("help, pages by keys").key(keycode::up).key(keycode::down).key(keycode::down).key(keycode::up);
     play.button(id::done);
@@ -102,7 +102,7 @@ void playStories(StagedPlay& play) {
                 std::string(campaignRow(campaign).name) + " " + std::to_string(stage + 1);
             scene(play, "cleared " + name, [=] { clearedStage(campaign, stage); });
             play.click(boardCell(6, bottomRow)).move(boardCell(0, 0));
-            holdEveryWidget(play, screen_id::play);
+            holdAll(play, playWidgets);
             play.step("after " + name).key(keycode::space).key(keycode::space);
         }
     for (int campaign = 0; campaign < campaignCount; ++campaign) {

@@ -1,6 +1,7 @@
 // One play through every screen, every state of it and every animation, on flat tiles.
 #include "content/game_flow.h"
 #include "prefs/saved_data.h"
+#include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/play/scenes.h"
 
@@ -8,9 +9,8 @@ namespace gloomdeck {
 
 void holdAndLetGo(StagedPlay& play, Point at) { play.press(at).release(nothing); }
 
-void holdEveryWidget(StagedPlay& play, int screenId) {
-    for (const int widgetId : pressOrder(screenId)) {
-        if (widgetId == id::stats) continue;  // counts wherever it is let go
+void holdAll(StagedPlay& play, const std::vector<int>& widgets) {
+    for (const int widgetId : widgets) {
         play.then([=](InputQueue& queue) { pointAt(queue, widgetCentre(widgetId), {true}); });
         play.release(nothing);
     }

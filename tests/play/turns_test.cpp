@@ -3,6 +3,7 @@
 #include "platform/frame.h"
 #include "platform/random.h"
 #include "rules/tiles.h"
+#include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/support/script.h"
 

@@ -6,7 +6,8 @@
 #include "platform/draw.h"
 #include "prefs/score.h"
 #include "rules/hero.h"
-#include "shell/play/day_display.h"
+#include "rules/show.h"
+#include "shell/play/board_end.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {

@@ -7,8 +7,8 @@
 #include "prefs/score.h"
 #include "rules/board_turn.h"
 #include "rules/encounter.h"
-#include "shell/play/board_view.h"
-#include "shell/play/day_display.h"
+#include "rules/show.h"
+#include "shell/play/board_end.h"
 #include "shell/play/stats_column.h"
 #include "tests/support/script.h"
 

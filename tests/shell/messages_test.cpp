@@ -4,7 +4,7 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "shell/palette.h"
-#include "shell/play/board_view.h"
+#include "rules/show.h"
 #include "shell/play/long_message.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/screen_lock.h"

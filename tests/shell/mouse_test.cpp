@@ -4,10 +4,11 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "shell/palette.h"
-#include "shell/play/board_view.h"
+#include "rules/show.h"
 #include "shell/play/describe.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/places.h"
+#include "shell/widgets/press.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -58,7 +59,7 @@ TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnItAndElseLooksAsBefore) {
 
 TEST_F(MouseTest, APressBelongsToTheScreenItBeganOn) {
     press(widgetCentre(id::help));
-    startScreenPress();
+    restartPress();
     EXPECT_EQ(release(widgetCentre(id::help)), 0);
     press(boardCell(2, 5));
     restartPress();

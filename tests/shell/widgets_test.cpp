@@ -4,9 +4,11 @@
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
+#include "platform/input.h"
 #include "shell/palette.h"
-#include "shell/play/board_view.h"
+#include "rules/show.h"
 #include "shell/widgets/hit_test.h"
+#include "shell/widgets/mouse.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
@@ -47,7 +49,13 @@ Image cellImage(int col, int row) {
 
 }  // namespace
 
-class WidgetsTest : public GameTest {};
+class WidgetsTest : public GameTest {
+  protected:
+    static void pointTo(int x, int y) {
+        pointerMoved(inputQueue(), x, y);
+        handleMouse();
+    }
+};
 
 TEST_F(WidgetsTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
     Button& grid = widget(id::board);
@@ -74,19 +82,19 @@ TEST_F(WidgetsTest, HoverGlowsOnOneCellAndGivesTheOldOneBackExactly) {
     fillBox(110, 140, 112, 142, 0xFF123456);  // something that no redraw of the cell would bring back
     Button& grid = widget(id::board);
     const Image before = cellImage(3, 3);
-    hitTest(grid, 104, 136, Phase::hover);
+    pointTo(104, 136);
     const Image glowing = cellImage(3, 3);
     EXPECT_NE(glowing.pixels, before.pixels);
-    hitTest(grid, 135, 167, Phase::hover);
+    pointTo(135, 167);
     EXPECT_EQ(cellImage(3, 3).pixels, glowing.pixels) << "the same cell glows once";
     ui.targetMode = target::bomb;
-    hitTest(grid, 136, 167, Phase::hover);
+    pointTo(136, 167);
     EXPECT_EQ(cellImage(3, 3).pixels, before.pixels);
     EXPECT_EQ(pixelAt(152, 152), flatColour(tile::bomb)) << "the mode's icon on the target";
-    leaveHover(grid);
+    pointTo(404, 300);
     EXPECT_EQ(grid.hoverCol, -1);
     EXPECT_EQ(pixelAt(152, 152), flatColour(tile::empty));
-    for (const int y : {168, 200}) hitTest(widget(id::stats), 260, y, Phase::hover);
+    for (const int y : {168, 200}) pointTo(260, y);
     EXPECT_EQ(pixelAt(260, 184), flatColour(tile::lightning)) << "the row that was left";
     EXPECT_NE(pixelAt(260, 216), flatColour(tile::sun));
 }

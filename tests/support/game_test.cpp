@@ -15,6 +15,7 @@
 #include "platform/input.h"
 #include "platform/random.h"
 #include "shell/palette.h"
+#include "shell/play_screen.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/tile_set.h"
 #include "tests/support/reset.h"
@@ -125,7 +126,7 @@ void GameTest::SetUp() {
     cellBackup = createImage(tile::size, tile::size);
     makeEmptyBoard();
     prefs.GameSpeed = speedCount - 1;
-    prefs.currentScreen = screen_id::play;
+    enterScreen(playScreen);
     rolls({});
 }
 

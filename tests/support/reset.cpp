@@ -12,6 +12,7 @@
 #include "shell/widgets/layout.h"
 #include "shell/widgets/messages.h"
 #include "shell/widgets/mouse.h"
+#include "shell/widgets/press.h"
 #include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {
@@ -28,7 +29,7 @@ void forgetProgram() {
     prefs = {};
     ui = {};
     restartPress();
-    clickedButton = -1;
+    useWidgets(nullptr);
     clearMessages();
     layOutWidgets();
 }

@@ -8,7 +8,7 @@
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
 #include "rules/game_state.h"
-#include "shell/widgets/layout.h"
+#include "shell/widgets/mouse.h"
 #include "shell/widgets/places.h"
 
 namespace gloomdeck::soak {
@@ -47,11 +47,11 @@ std::string_view keyFor(int screenId) {
 }
 
 Point placeFor(int screenId) {
-    const std::span<const int> widgets = pressOrder(screenId);
+    const std::span<const WidgetRow> widgets = widgetsInUse();
     if (screenId == screen_id::play && !oneIn(4))
         return pointIn(boardGrid.cell(below(columnCount), bottomRow));
     if (widgets.empty() || oneIn(20)) return anywhere();
-    return pointOn(widgets[static_cast<std::size_t>(below(static_cast<int>(widgets.size())))]);
+    return pointOn(widgets[static_cast<std::size_t>(below(static_cast<int>(widgets.size())))].id);
 }
 
 void click(InputQueue& queue, Point from, Point to) {
