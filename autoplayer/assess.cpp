@@ -8,6 +8,7 @@
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
+#include "rules/monsters.h"
 
 namespace gloomdeck {
 
@@ -227,10 +228,8 @@ int faded(int value, int distance) {
 enum class Neighbour { blocked, hidden, open };
 
 Neighbour neighbourAt(int col, int row) {
-    if (!InBounds(col, row)) return Neighbour::blocked;
-    const bool hidden = IsHiddenByEye(col, row);
-    if (!encounterType(cell(col, row)).ghostMayEnter && !hidden) return Neighbour::blocked;
-    return hidden ? Neighbour::hidden : Neighbour::open;
+    if (InBounds(col, row) && IsHiddenByEye(col, row)) return Neighbour::hidden;
+    return ghostIsLetIn(col, row) ? Neighbour::open : Neighbour::blocked;  // past the end counts as open
 }
 
 }  // namespace
@@ -319,7 +318,7 @@ int TrapState(int col, int row) {
 bool NoGhostTarget() {
     for (int col = 0; col < columnCount; ++col)
         for (int row = 0; row < rowCount; ++row)
-            if (!IsPastEnd(col, row) && encounterType(cell(col, row)).ghostMayEnter) return false;
+            if (ghostMayGo(col, row)) return false;
     return true;
 }
 
