@@ -15,7 +15,6 @@ namespace gloomdeck {
 namespace {
 
 constexpr int hiddenValue = -100;
-constexpr int trapDamage = 60;  // three times the trap's die
 
 // A cell under assessment: its table row, where it stands, and what comes out.
 struct Subject {
@@ -28,9 +27,18 @@ struct Subject {
     bool atBottom() const { return row == bottomRow; }
 };
 
-int thresholdOf(const Subject& s) { return monsterType(encounterType(s.code).monster).healthThreshold; }
+int monsterRowOf(const Subject& s) { return encounterType(s.code).monster; }
 
-bool survives(const Subject& s) { return count(health) > ExpectedDamage(encounterType(s.code).monster); }
+int thresholdOf(const Subject& s) { return monsterType(monsterRowOf(s)).healthThreshold; }
+
+bool survives(const Subject& s) { return count(health) > ExpectedDamage(monsterRowOf(s)); }
+
+// What a hit is reckoned at before anything reduces it: three times its dice, seven times its bonus.
+std::int64_t fearedDamage(int monsterRow) {
+    const MonsterType& type = monsterType(monsterRow);
+    const std::int64_t dice = std::int64_t{type.dice[0]} + type.dice[1] + type.dice[2];
+    return 3 * dice + std::int64_t{7} * type.bonus;
+}
 
 void makeHard(Subject& s) {
     s.a.category = category::obstacle;
@@ -93,7 +101,7 @@ void assessDoor(Subject& s) { assessLock(s, 20, 8, 1); }
 void assessDoubleDoor(Subject& s) { assessLock(s, 25, 10, 2); }
 
 void assessTrap(Subject& s) {
-    if (count(health) > ReduceDamage(trapDamage))
+    if (count(health) > ReduceDamage(fearedDamage(monsterRowOf(s))))
         s.a.value = s.values.easyValue;
     else
         makeHard(s);
@@ -296,11 +304,7 @@ int ReduceDamage(std::int64_t n) {
     return static_cast<int>(std::max<std::int64_t>(roundedQuotient(10 * n - level(toughness), 10), 0));
 }
 
-int ExpectedDamage(int monsterRow) {
-    const MonsterType& type = monsterType(monsterRow);
-    const std::int64_t dice = std::int64_t{type.dice[0]} + type.dice[1] + type.dice[2];
-    return ReduceDamage(ReduceDamage(3 * dice + std::int64_t{7} * type.bonus));
-}
+int ExpectedDamage(int monsterRow) { return ReduceDamage(ReduceDamage(fearedDamage(monsterRow))); }
 
 int TrapState(int col, int row) {
     int blocked = 0;
