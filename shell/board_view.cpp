@@ -23,18 +23,15 @@ constexpr int nameStep = 10;
 
 const Location& locationOf(int col) { return locationRow(column(col).location); }
 
-// Draws the cells from the top; the answer is the row of the eye that hides what lies below it, or -1.
-int drawCells(int col) {
-    int eyeRow = none;
+// Below the row of an eye there is bare terrain.
+void drawCells(int col, int eyeRow) {
     for (int row = 0; row < rowCount; ++row) {
         const Point at = boardGrid.corner(col, row);
         putTile(locationOf(col).backgroundTile, at, putCopy);
-        if (eyeRow != none) continue;
+        if (eyeRow != none && row > eyeRow) continue;
         putTile(encounterType(cell(col, row)).tile, at, putTransparent);
         if (IsPastEnd(col, row)) putTile(tile::cover, at, putTransparent);
-        if (cell(col, row) == enc::HypnoEye && !isActive(magicSight)) eyeRow = row;
     }
-    return eyeRow;
 }
 
 void drawBeam(int col, int eyeRow) {
@@ -76,7 +73,8 @@ void drawBoard() {
 
 void drawColumn(int col) {
     const HeldScreen held;
-    const int eyeRow = drawCells(col);
+    const int eyeRow = highestEye(col, bottomRow, Sight::counts);  // in the bottom row it has a beam too
+    drawCells(col, eyeRow);
     if (eyeRow != none) drawBeam(col, eyeRow);
     drawCounter(col);
     if (column(col).finished) drawNameDown(col);
