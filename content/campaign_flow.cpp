@@ -18,8 +18,6 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int randomStage = -19;  // entries below ask for a random scenario
-
 bool someScenarioHas(int difficulty) {
     return std::any_of(ScenarioTable.begin(), ScenarioTable.end(),
                        [=](const Scenario& scenario) { return scenario.difficulty == difficulty; });
@@ -36,9 +34,9 @@ int randomScenarioOf(int difficulty) {
 }  // namespace
 
 void startCampaignStage() {
-    int entry = stageEntry(campaignRow(game.campaign), game.campaignStage);
-    if (entry < randomStage) entry = randomScenarioOf(difficultyWanted(entry));
-    buildScenarioBoard(entry);
+    const int entry = stageEntry(campaignRow(game.campaign), game.campaignStage);
+    const int difficulty = difficultyWanted(entry);
+    buildScenarioBoard(difficulty != 0 ? randomScenarioOf(difficulty) : entry);
     if (prefs.restartSwitch || prefs.skipText) return;
     drawBackground();
     const std::int64_t number = std::int64_t{game.campaignStage} + 1;

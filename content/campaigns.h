@@ -13,7 +13,7 @@ struct Campaign {
     std::string_view name;
     std::int32_t difficulty;                      // 1 to 5
     std::int32_t scenarioCount;                   // 1 to 8 stages
-    std::array<std::int32_t, mostStages> stages;  // a scenario, or below -19 a random one of a difficulty
+    std::array<std::int32_t, mostStages> stages;  // a scenario, or what difficultyWanted reads
     std::int32_t pictureTile;
 };
 
@@ -26,7 +26,8 @@ const Campaign& campaignRow(int index);
 /// The entry of a stage; a stage out of range has the first.
 int stageEntry(const Campaign& campaign, int stage);
 
-/// The difficulty that a stage entry below -19 asks for: -20 to -24 are 1 to 5, anything else 1.
+/// The difficulty of which a stage entry wants a random scenario: 1 to 5 for -20 to -24, 1 for what is lower;
+/// 0 for every other entry, which names the scenario itself.
 int difficultyWanted(int entry);
 
 }  // namespace gloomdeck

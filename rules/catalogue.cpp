@@ -1,20 +1,10 @@
 #include "rules/catalogue.h"
 
+#include "platform/table.h"
 #include "rules/dice.h"
 #include "shell/tiles.h"
 
 namespace gloomdeck {
-
-namespace {
-
-template <typename Table>
-constexpr bool rowsStandAtTheirCode(const Table& table) {
-    for (std::size_t i = 0; i < table.size(); ++i)
-        if (static_cast<std::size_t>(table[i].code) != i) return false;
-    return true;
-}
-
-}  // namespace
 
 // clang-format off
 constexpr std::array<EncounterType, enc::count> EncounterTable{{
@@ -97,7 +87,7 @@ constexpr std::array<EncounterType, enc::count> EncounterTable{{
      .sunChance = never, .shieldChance = never, .lightningChance = never, .monster = none,
      .description = "Gives magic vision, 1 health."},
 }};
-static_assert(rowsStandAtTheirCode(EncounterTable));
+static_assert(rowsStandAtTheirIndex(EncounterTable, &EncounterType::code));
 
 const std::array<MonsterType, monster::count> MonsterTable{{
     // threshold      dice      bonus  becomes

@@ -42,7 +42,8 @@ TEST_F(CampaignTest, AStageIsDealtBeforeItsStoryWhichEitherSwitchSkips) {
 
 TEST_F(CampaignTest, RandomStagesAskForADifficulty) {
     for (int entry = -24; entry <= -20; ++entry) EXPECT_EQ(difficultyWanted(entry), -19 - entry);
-    for (const int other : {-25, -most}) EXPECT_EQ(difficultyWanted(other), 1);
+    for (const int other : {-25, -most - 1}) EXPECT_EQ(difficultyWanted(other), 1);
+    for (const int scenario : {-19, 0, most}) EXPECT_EQ(difficultyWanted(scenario), 0);
 }
 
 TEST_F(CampaignTest, TheHeroGoesOnToTheNextStageAndTheContinueButtonGoes) {
