@@ -39,9 +39,7 @@ void startCampaignStage() {
     buildScenarioBoard(difficulty != 0 ? randomScenarioOf(difficulty) : entry);
     if (prefs.restartSwitch || prefs.skipText) return;
     drawBackground();
-    const std::int64_t number = std::int64_t{game.campaignStage} + 1;
-    showLongMessage(
-        std::string(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99)))));
+    showLongMessage(std::string(storyText(game.campaign, std::int64_t{game.campaignStage} + 1)));
 }
 
 void nextCampaignStage() {

@@ -3,26 +3,9 @@
 #include <algorithm>
 
 #include "content/scenarios.h"
-#include "shell/tiles.h"
+#include "platform/table.h"
 
 namespace gloomdeck {
-
-namespace {
-
-using enum scenario_id::Id;
-
-}  // namespace
-
-// clang-format off
-constexpr std::array<Campaign, campaignCount> CampaignTable{{
-    {.name = "Intro", .difficulty = 1, .scenarioCount = 2,
-     .stages = {easy, treasury}, .pictureTile = tile::ghost},
-    {.name = "Back and Forth", .difficulty = 1, .scenarioCount = 4,
-     .stages = {treasury, ruins, treasury, dungeon}, .pictureTile = tile::gold},
-    {.name = "Thieves", .difficulty = 2, .scenarioCount = 2,
-     .stages = {thievesDen, banditCamp}, .pictureTile = tile::thief},
-}};
-// clang-format on
 
 namespace {
 
@@ -42,13 +25,9 @@ static_assert(everyStageNamesAScenario());
 
 }  // namespace
 
-const Campaign& campaignRow(int index) {
-    return CampaignTable[static_cast<std::size_t>(index >= 0 && index < campaignCount ? index : 0)];
-}
+const Campaign& campaignRow(int index) { return rowAt(CampaignTable, index); }
 
-int stageEntry(const Campaign& campaign, int stage) {
-    return campaign.stages[static_cast<std::size_t>(stage >= 0 && stage < mostStages ? stage : 0)];
-}
+int stageEntry(const Campaign& campaign, int stage) { return rowAt(campaign.stages, stage); }
 
 int difficultyWanted(int entry) {
     if (entry >= randomStage) return 0;

@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "content/scenarios.h"
+#include "shell/tiles.h"
+
 namespace gloomdeck {
 
 inline constexpr int mostStages = 8;
@@ -18,7 +21,17 @@ struct Campaign {
 };
 
 inline constexpr int campaignCount = 3;
-extern const std::array<Campaign, campaignCount> CampaignTable;
+// clang-format off
+inline constexpr std::array<Campaign, campaignCount> CampaignTable{{
+    {.name = "Intro", .difficulty = 1, .scenarioCount = 2,
+     .stages = {scenario_id::easy, scenario_id::treasury}, .pictureTile = tile::ghost},
+    {.name = "Back and Forth", .difficulty = 1, .scenarioCount = 4,
+     .stages = {scenario_id::treasury, scenario_id::ruins, scenario_id::treasury, scenario_id::dungeon},
+     .pictureTile = tile::gold},
+    {.name = "Thieves", .difficulty = 2, .scenarioCount = 2,
+     .stages = {scenario_id::thievesDen, scenario_id::banditCamp}, .pictureTile = tile::thief},
+}};
+// clang-format on
 
 /// The row of an index; one out of range has the first row.
 const Campaign& campaignRow(int index);

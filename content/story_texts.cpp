@@ -2,7 +2,7 @@
 
 namespace gloomdeck {
 
-const std::array<std::array<std::string_view, storyTextCount>, 3> StoryTexts{{
+constexpr std::array<std::array<std::string_view, storyTextCount>, campaignCount> StoryTexts{{
     // Intro
     {"Learn about the game.",
      "On the next screen, there are seven columns of items. Click on the bottom item of a column to "
@@ -32,8 +32,23 @@ const std::array<std::array<std::string_view, storyTextCount>, 3> StoryTexts{{
      "You have defeated the thieves and reclaimed the precious Jewel of your ancestors."},
 }};
 
-std::string_view storyText(int campaign, int number) {
-    if (campaign < 0 || campaign >= static_cast<int>(StoryTexts.size())) return {};
+namespace {
+
+constexpr bool everyCampaignHasItsTexts() {
+    for (std::size_t campaign = 0; campaign < CampaignTable.size(); ++campaign) {
+        const int last = CampaignTable[campaign].scenarioCount + 1;
+        for (int number = 0; number < storyTextCount; ++number)
+            if (StoryTexts[campaign][static_cast<std::size_t>(number)].empty() != (number > last))
+                return false;
+    }
+    return true;
+}
+static_assert(everyCampaignHasItsTexts());
+
+}  // namespace
+
+std::string_view storyText(int campaign, std::int64_t number) {
+    if (campaign < 0 || campaign >= campaignCount) return {};
     if (number < 0 || number >= storyTextCount) return {};
     return StoryTexts[static_cast<std::size_t>(campaign)][static_cast<std::size_t>(number)];
 }
