@@ -1,5 +1,7 @@
 #include "autoplayer/autoplayer_table.h"
 
+#include "platform/table.h"
+
 namespace gloomdeck {
 
 // clang-format off
@@ -32,8 +34,6 @@ const std::array<AutoplayerRow, enc::count> AutoplayerTable{{
 }};
 // clang-format on
 
-const AutoplayerRow& autoplayerRow(int code) {
-    return AutoplayerTable[static_cast<std::size_t>(code >= 0 && code < enc::count ? code : enc::Empty)];
-}
+const AutoplayerRow& autoplayerRow(int code) { return rowAt(AutoplayerTable, code, enc::Empty); }
 
 }  // namespace gloomdeck

@@ -13,6 +13,7 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/system.h"
+#include "platform/table.h"
 #include "prefs/prefs.h"
 #include "shell/describe.h"
 #include "shell/layout.h"
@@ -51,12 +52,10 @@ struct Selection {
 
 int& rowOf(Selection& s) { return s.rows[static_cast<std::size_t>(s.tab)]; }
 
-int inRange(int row, int length) { return row >= 0 && row < length ? row : 0; }
-
 Selection selectionFromPrefs() {
     Selection s;
     s.tab = prefs.campaignChoice == -1 ? selection_tab::scenarios : selection_tab::campaigns;
-    s.rows = {inRange(prefs.campaignChoice, campaignCount), inRange(prefs.scenarioChoice, scenarioTableSize)};
+    s.rows = {indexOr(prefs.campaignChoice, campaignCount), indexOr(prefs.scenarioChoice, scenarioTableSize)};
     s.name = nameText(prefs.heroName);
     s.nextBlink = timer() + blinkTime;
     return s;

@@ -112,16 +112,12 @@ constexpr std::array<Percentages, locationCount> percentages = [] {
     return all;
 }();
 
-std::size_t rowOf(int index) {
-    return static_cast<std::size_t>(index >= 0 && index < locationCount ? index : 0);
-}
-
 }  // namespace
 
-const Location& locationRow(int index) { return LocationTable[rowOf(index)]; }
+const Location& locationRow(int index) { return rowAt(LocationTable, index); }
 
 int dealPercentage(int location, int code) {
-    return percentages[rowOf(location)][static_cast<std::size_t>(code)];
+    return rowAt(percentages, location)[static_cast<std::size_t>(code)];
 }
 
 }  // namespace gloomdeck

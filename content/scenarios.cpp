@@ -59,14 +59,9 @@ static_assert(listHasEveryScenario());
 
 }  // namespace
 
-const Scenario& scenarioRow(int index) {
-    return ScenarioTable[static_cast<std::size_t>(index >= 0 && index < scenarioTableSize ? index : 0)];
-}
+const Scenario& scenarioRow(int index) { return rowAt(ScenarioTable, index); }
 
-int scenarioAtPosition(int position) {
-    return scenarioListOrder[static_cast<std::size_t>(position >= 0 && position < scenarioTableSize ? position
-                                                                                                    : 0)];
-}
+int scenarioAtPosition(int position) { return rowAt(scenarioListOrder, position); }
 
 std::string_view difficultyName(int difficulty) {
     return difficultyNames[static_cast<std::size_t>(std::clamp(difficulty, 1, difficultyCount) - 1)];

@@ -135,9 +135,7 @@ const std::array<PowerType, powerCount> PowerTable{{
 std::array<ItemType, itemCount> ItemTable = builtInItems;
 std::array<SkillType, skillCount> SkillTable = builtInSkills;
 
-const EncounterType& encounterType(int code) {
-    return EncounterTable[static_cast<std::size_t>(code >= 0 && code < enc::count ? code : enc::Empty)];
-}
+const EncounterType& encounterType(int code) { return rowAt(EncounterTable, code, enc::Empty); }
 
 const MonsterType& monsterType(int row) { return MonsterTable[static_cast<std::size_t>(row)]; }
 ItemType& itemType(int item) { return ItemTable[static_cast<std::size_t>(item)]; }
