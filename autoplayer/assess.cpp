@@ -5,7 +5,7 @@
 #include "autoplayer/autoplayer_table.h"
 #include "platform/geometry.h"
 #include "platform/rounding.h"
-#include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/monsters.h"
@@ -258,11 +258,12 @@ Assessment assessBoard(const EyeRows& eyeRows) {
 
 bool CategoryEnabled(int categoryNumber) {
     switch (categoryNumber) {
-        case category::goodStuff: return prefs.goodStuff && (prefs.fairlyEasy || noPowerIsActive());
-        case category::fairlyEasy: return prefs.fairlyEasy;
-        case category::obstacle: return prefs.obstacles;
-        case category::spells: return prefs.spellsSkills;
-        case category::grief: return prefs.grief;
+        case category::goodStuff:
+            return switchIsOn(Switch::goodStuff) && (switchIsOn(Switch::fairlyEasy) || noPowerIsActive());
+        case category::fairlyEasy: return switchIsOn(Switch::fairlyEasy);
+        case category::obstacle: return switchIsOn(Switch::obstacles);
+        case category::spells: return switchIsOn(Switch::spellsSkills);
+        case category::grief: return switchIsOn(Switch::grief);
         default: return false;
     }
 }

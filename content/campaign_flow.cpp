@@ -7,7 +7,7 @@
 #include "content/deal_board.h"
 #include "content/scenarios.h"
 #include "content/story_texts.h"
-#include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/dice.h"
 #include "rules/game_state.h"
 #include "shell/layout.h"
@@ -37,7 +37,7 @@ void startCampaignStage() {
     const int entry = stageEntry(campaignRow(game.campaign), game.campaignStage);
     const int difficulty = difficultyWanted(entry);
     buildScenarioBoard(difficulty != 0 ? randomScenarioOf(difficulty) : entry);
-    if (prefs.restartSwitch || prefs.skipText) return;
+    if (switchIsOn(Switch::restartSwitch) || switchIsOn(Switch::skipText)) return;
     drawBackground();
     showLongMessage(std::string(storyText(game.campaign, std::int64_t{game.campaignStage} + 1)));
 }

@@ -1,6 +1,8 @@
 #include "shell/layout.h"
 
+#include <algorithm>
 #include <array>
+#include <numeric>
 
 #include "prefs/prefs.h"
 #include "shell/places.h"
@@ -56,13 +58,20 @@ constexpr std::array playOrder{id::board, id::stats, id::newGame, id::exit, id::
                                id::continueGame};
 constexpr std::array clearedPlayOrder{id::newGame, id::exit, id::replay, id::help, id::prefs, id::continueGame};
 constexpr std::array helpOrder{id::helpMenu, id::next, id::prev, id::done};
-constexpr std::array preferencesOrder{id::speedUp, id::speedDown, id::done,
-                                      id::toggle, id::toggle + 1, id::toggle + 2, id::toggle + 3, id::toggle + 4,
-                                      id::toggle + 5, id::toggle + 6};
-constexpr std::array trainingOrder{id::done, id::training, id::training + 1, id::training + 2, id::training + 3,
-                                   id::training + 4, id::training + 5, id::training + 6, id::training + 7,
-                                   id::training + 8};
 // clang-format on
+
+// A screen's own buttons, then its rows from the top.
+template <int rows, std::size_t buttons>
+constexpr std::array<int, buttons + rows> withRows(const std::array<int, buttons>& own, int firstRow) {
+    std::array<int, buttons + rows> order{};
+    std::copy(own.begin(), own.end(), order.begin());
+    std::iota(order.begin() + buttons, order.end(), firstRow);
+    return order;
+}
+
+constexpr auto preferencesOrder =
+    withRows<toggleRows>(std::array{id::speedUp, id::speedDown, id::done}, id::toggle);
+constexpr auto trainingOrder = withRows<trainingRows>(std::array{id::done}, id::training);
 
 void placeWidget(const Placement& p) {
     Button& b = widget(p.id);
@@ -78,10 +87,9 @@ void placeWidget(const Placement& p) {
 void placeRows() {
     for (int row = 0; row < trainingRows; ++row)
         placeWidget({id::training + row, 16, 48 + 35 * row, 32, 32, 32, 32, "+"});
-    for (int row = 0; row < toggleRows; ++row) {
-        const int y = row == toggleRows - 1 ? 306 : 174 + 19 * row;
-        placeWidget({id::toggle + row, 98, y, 52, 16, 52, 16, "on/off"});
-    }
+    for (int row = 0; row < toggleRows; ++row)
+        placeWidget(
+            {id::toggle + row, 98, SwitchTable[static_cast<std::size_t>(row)].top, 52, 16, 52, 16, "on/off"});
 }
 
 void placeGrid(int widgetId, int gridId, const Grid& g) {

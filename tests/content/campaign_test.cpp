@@ -33,10 +33,10 @@ TEST_F(CampaignTest, AStageIsDealtBeforeItsStoryWhichEitherSwitchSkips) {
     startCampaignStage();
     finishScript();
     EXPECT_EQ(pixelAt(9, 41), flatColour(tile::marble)) << "the board is shown afterwards";
-    prefs.skipText = 1;
+    setSwitch(Switch::skipText, true);
     startCampaignStage();
-    prefs.skipText = 0;
-    prefs.restartSwitch = 1;
+    setSwitch(Switch::skipText, false);
+    setSwitch(Switch::restartSwitch, true);
     startCampaignStage();
 }
 
@@ -48,7 +48,7 @@ TEST_F(CampaignTest, RandomStagesAskForADifficulty) {
 
 TEST_F(CampaignTest, TheHeroGoesOnToTheNextStageAndTheContinueButtonGoes) {
     seedRolls(3);
-    prefs.skipText = 1;
+    setSwitch(Switch::skipText, true);
     game.campaign = backAndForth;
     giveHero(7);
     game.turns = 77;

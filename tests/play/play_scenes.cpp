@@ -174,7 +174,8 @@ void playSpells(StagedPlay& play) {
 
 void playAutoplayer(StagedPlay& play) {
     const auto allowAll = [] {
-        prefs.goodStuff = prefs.fairlyEasy = prefs.obstacles = prefs.grief = 1;
+        for (const Switch s : {Switch::goodStuff, Switch::fairlyEasy, Switch::obstacles, Switch::grief})
+            setSwitch(s, true);
         giveHero(200);
         count(lightningBolts) = count(bombs) = 3;
     };
@@ -183,7 +184,7 @@ void playAutoplayer(StagedPlay& play) {
             everyCode();
             for (int col = 0; col < columnCount; ++col) leave(col, 8);
             allowAll();
-            prefs.spellsSkills = weapons ? 1 : 0;
+            setSwitch(Switch::spellsSkills, weapons);
         });
         play.click(boardCell(0, bottomRow));
     }
