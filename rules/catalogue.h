@@ -44,7 +44,7 @@ struct SkillType {
     std::string_view name;
     std::int32_t tile;
     std::int32_t statsRow;  // the item row beside which it stands
-    std::int32_t price;     // gold for 5 percentage points
+    std::int32_t price;     // gold for a training step
     std::string_view description;
     std::int32_t highlightTurns;
 };

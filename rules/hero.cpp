@@ -11,7 +11,6 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int highestSkill = 95;
 constexpr int highlightLasts = 2;  // board turns
 
 // Columns that look another way when a magic sight begins or ends.

@@ -3,6 +3,7 @@
 #include "platform/draw.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
+#include "rules/hero.h"
 #include "shell/layout.h"
 #include "shell/palette.h"
 #include "shell/tile_set.h"
@@ -20,8 +21,6 @@ const std::array<TradeOffer, tradeOfferCount> TradeOffers{{
 
 namespace {
 
-constexpr int trainingStep = 5;
-constexpr int highestTrainable = 90;
 constexpr int bandLeft = 53;
 constexpr int bandRight = 353;
 constexpr int textLeft = 90;
@@ -36,7 +35,7 @@ void drawBand(int y, bool even, int tileNumber) {
 // True when there is gold enough; otherwise the message says what is needed.
 bool canPay(int price) {
     if (count(gold) >= price) return true;
-    ShowTrainingMessage(" You need " + std::to_string(price) + " " + "Gold" + ".");
+    ShowTrainingMessage(" You need " + std::to_string(price) + " " + std::string(itemType(gold).name) + ".");
     return false;
 }
 
@@ -78,7 +77,9 @@ void DrawTrainingRow(int skill) {
         plus.hidden = true;
         eraseButton(plus);
     }
-    drawText(textLeft, plus.y + 4, std::to_string(type.price) + " gold for 5% " + std::string(type.name));
+    drawText(textLeft, plus.y + 4,
+             std::to_string(type.price) + " gold for " + std::to_string(trainingStep) + "% " +
+                 std::string(type.name));
     drawText(textLeft, plus.y + 18, " (Currently " + std::to_string(level(skill)) + "%)", colour::yellow);
 }
 

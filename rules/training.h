@@ -16,9 +16,10 @@ struct TradeOffer {
 };
 
 inline constexpr int tradeOfferCount = 3;
+inline constexpr int trainingRows = skillCount + tradeOfferCount;  ///< the skills, then the offers
 extern const std::array<TradeOffer, tradeOfferCount> TradeOffers;
 
-/// Buys 5 percentage points of a skill, or what an offer offers; with too little gold a message says so.
+/// Buys a training step of a skill, or what an offer offers; with too little gold a message says so.
 void Train(int skill);
 void Trade(int offer);
 

@@ -4,11 +4,11 @@
 #include <span>
 
 #include "prefs/switches.h"
+#include "rules/training.h"
 #include "shell/button.h"
 
 namespace gloomdeck {
 
-inline constexpr int trainingRows = 9;
 inline constexpr int toggleRows = switchCount;
 
 /// Widget ids, as the click handler reports them.

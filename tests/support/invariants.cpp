@@ -9,11 +9,11 @@
 #include "prefs/prefs.h"
 #include "prefs/switches.h"
 #include "rules/game_state.h"
+#include "rules/hero.h"
 
 namespace gloomdeck {
 
 std::string brokenInvariant() {
-    constexpr int highestSkill = 95;
     constexpr int unlimited = std::numeric_limits<int>::max();
     std::string found;
     const auto expect = [&](const char* what, int index, std::int64_t value, int lowest, int highest) {
