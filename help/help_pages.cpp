@@ -5,6 +5,7 @@
 
 #include "help/help_texts.h"
 #include "platform/draw.h"
+#include "platform/table.h"
 #include "rules/catalogue.h"
 #include "shell/describe.h"
 #include "shell/palette.h"
@@ -32,11 +33,15 @@ void drawKeyLines(std::span<const HelpLine> lines) {
     }
 }
 
+void drawDescription(std::string_view text, int y) {
+    drawWrappedText(std::string(text), left, y, charactersPerLine, lineStep);
+}
+
 void drawEntry(int behind, int tileNumber, std::string_view name, std::string_view description) {
     putTile(behind, left, top, putCopy);
     putTile(tileNumber, left, top, putTransparent);
     drawText(146, 39, name);
-    drawWrappedText(std::string(description), left, 70, charactersPerLine, lineStep);
+    drawDescription(description, 70);
 }
 
 void drawChance(int box, int icon, int chance) {
@@ -73,30 +78,39 @@ void drawAbout() {
     centredText("Gloomdeck", 218, 108);
 }
 
+struct HelpPage {
+    help_page::Id id;  // its own row
+    std::string_view label;
+    int entries;
+    void (*draw)(int entry);
+};
+
+// clang-format off
+constexpr std::array<HelpPage, help_page::count> helpPages{{
+    {help_page::basic,      "Basic",      1,          [](int) { drawKeyLines(basicHelp); }},
+    {help_page::keyboard,   "Keyboard",   1,          [](int) { drawKeyLines(keyboardHelp); }},
+    {help_page::encounters, "Encounters", enc::count, drawEncounterEntry},
+    {help_page::stats,      "Stats",      itemCount,  drawItemEntry},
+    {help_page::skills,     "Skills",     skillCount, drawSkillEntry},
+    {help_page::powers,     "Powers",     powerCount, drawPowerEntry},
+    {help_page::autoplayer, "Autoplayer", 1,          [](int) { drawDescription(autoplayerHelp, top); }},
+    {help_page::about,      "About",      1,          [](int) { drawAbout(); }},
+}};
+// clang-format on
+static_assert(rowsStandAtTheirIndex(helpPages, &HelpPage::id));
+
+const HelpPage& helpPage(int page) { return helpPages[static_cast<std::size_t>(page)]; }
+
 }  // namespace
 
-int helpEntryCount(int page) {
-    switch (page) {
-        case help_page::encounters: return enc::count;
-        case help_page::stats: return itemCount;
-        case help_page::skills: return skillCount;
-        case help_page::powers: return powerCount;
-        default: return 1;
-    }
-}
+constexpr std::array<std::string_view, help_page::count> helpPageLabels = [] {
+    std::array<std::string_view, help_page::count> labels;
+    for (std::size_t i = 0; i < labels.size(); ++i) labels[i] = helpPages[i].label;
+    return labels;
+}();
 
-void drawHelpPage(int page, int entry) {
-    switch (page) {
-        case help_page::basic: return drawKeyLines(basicHelp);
-        case help_page::keyboard: return drawKeyLines(keyboardHelp);
-        case help_page::encounters: return drawEncounterEntry(entry);
-        case help_page::stats: return drawItemEntry(entry);
-        case help_page::skills: return drawSkillEntry(entry);
-        case help_page::powers: return drawPowerEntry(entry);
-        case help_page::autoplayer:
-            return drawWrappedText(std::string(autoplayerHelp), left, top, charactersPerLine, lineStep);
-        default: return drawAbout();
-    }
-}
+int helpEntryCount(int page) { return helpPage(page).entries; }
+
+void drawHelpPage(int page, int entry) { helpPage(page).draw(entry); }
 
 }  // namespace gloomdeck

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "help/help_pages.h"
-#include "help/help_texts.h"
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"

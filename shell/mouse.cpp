@@ -1,7 +1,7 @@
 #include "shell/mouse.h"
 
 #include "content/selection_list.h"
-#include "help/help_texts.h"
+#include "help/help_pages.h"
 #include "platform/input.h"
 #include "prefs/prefs.h"
 #include "rules/stats_column.h"
