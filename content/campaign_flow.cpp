@@ -24,7 +24,7 @@ bool someScenarioHas(int difficulty) {
 }
 
 int randomScenarioOf(int difficulty) {
-    if (!someScenarioHas(difficulty)) return 0;
+    if (!someScenarioHas(difficulty)) return scenario_id::treasury;
     while (true) {
         const int i = Roll(scenarioTableSize) - 1;
         if (scenarioRow(i).difficulty == difficulty) return i;

@@ -21,7 +21,14 @@ constexpr int top = 28;
 constexpr int charactersPerLine = 28;
 constexpr int lineStep = 12;
 constexpr int boxTop = 216;
-constexpr int chanceLift = 10;
+constexpr Point entryName{146, 39};
+constexpr int entryTextTop = 70;
+constexpr int aboutMiddle = 218;
+constexpr int aboutPicturesTop = 58;
+constexpr int aboutTextTop = 108;
+constexpr int aboutStep = 2 * tile::size;
+
+int boxLeft(int box) { return left + tile::size * box; }
 
 // Names of keys stand before a colon and are drawn in yellow.
 void drawKeyLines(std::span<const HelpLine> lines) {
@@ -40,12 +47,12 @@ void drawDescription(std::string_view text, int y) {
 void drawEntry(int behind, int tileNumber, std::string_view name, std::string_view description) {
     putTile(behind, left, top, putCopy);
     putTile(tileNumber, left, top, putTransparent);
-    drawText(146, 39, name);
-    drawDescription(description, 70);
+    drawText(entryName.x, entryName.y, name);
+    drawDescription(description, entryTextTop);
 }
 
 void drawChance(int box, int icon, int chance) {
-    const int x = left + tile::size * box;
+    const int x = boxLeft(box);
     drawFramedTile(icon, x, boxTop);
     if (chance != never) drawText(x, boxTop - chanceLift, std::to_string(chance) + "%");
 }
@@ -53,10 +60,10 @@ void drawChance(int box, int icon, int chance) {
 void drawEncounterEntry(int code) {
     const EncounterType& type = encounterType(code);
     drawEntry(tile::pictureFrame, type.tile, type.name, type.description);
-    drawChance(0, tile::shield, type.shieldChance);
-    drawChance(1, tile::sun, type.sunChance);
-    drawChance(2, tile::lightning, type.lightningChance);
-    drawBombBox(code, 234, boxTop);
+    drawChance(chance_box::shield, tile::shield, type.shieldChance);
+    drawChance(chance_box::sun, tile::sun, type.sunChance);
+    drawChance(chance_box::lightning, tile::lightning, type.lightningChance);
+    drawBombBox(code, boxLeft(chance_box::bomb), boxTop);
 }
 
 void drawItemEntry(int item) {
@@ -72,10 +79,12 @@ void drawPowerEntry(int power) {
 }
 
 void drawAbout() {
-    drawFramedTile(tile::ghost, 138, 58);
-    drawFramedTile(tile::lockedChest, 202, 58);
-    drawFramedTile(tile::scroll, 266, 58);
-    centredText("Gloomdeck", 218, 108);
+    int x = aboutMiddle - aboutStep - tile::size / 2;
+    for (const int picture : {tile::ghost, tile::lockedChest, tile::scroll}) {
+        drawFramedTile(picture, x, aboutPicturesTop);
+        x += aboutStep;
+    }
+    centredText("Gloomdeck", aboutMiddle, aboutTextTop);
 }
 
 struct HelpPage {

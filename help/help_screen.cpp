@@ -24,8 +24,9 @@ namespace {
 constexpr int barHeight = 488;
 constexpr Rect contentPanel{98, 20, 337, 256};
 constexpr Rect besidePanel{345, 20, 409, 363};
-constexpr int contentLeft = 106;
-constexpr int contentRight = 337;
+constexpr Point prevPlace{98, 264};
+constexpr Point nextPlace{273, 264};
+constexpr int doneTop = 294;
 
 struct HelpState {
     int page = help_page::encounters;
@@ -45,9 +46,9 @@ void openScreen() {
     drawHeaderBar(barHeight);
     Button& done = widget(id::done);
     done.caption = "OK";
-    placeButton(done, roundedRatio(2 * contentLeft + contentRight - (contentLeft + 8) - done.width, 2), 294);
-    placeButton(widget(id::prev), 98, 264);
-    placeButton(widget(id::next), 273, 264);
+    placeButton(done, roundedRatio(contentPanel.x1 + contentPanel.x2 - done.width, 2), doneTop);
+    placeButton(widget(id::prev), prevPlace.x, prevPlace.y);
+    placeButton(widget(id::next), nextPlace.x, nextPlace.y);
     widget(id::helpMenu).height = help_page::count * widget(id::helpMenu).cellHeight;
     drawButton(done);
 }
