@@ -5,7 +5,7 @@
 namespace gloomdeck {
 
 // clang-format off
-const std::array<AutoplayerRow, enc::count> AutoplayerTable{{
+const std::array<AutoplayerRow, encounterCount> AutoplayerTable{{
     // powered  base  easy  hard  worst  category  bottomOnly
     {        0,    6,    0,    0,     0,        1,          0},  // Gold
     {        0,    0,   -1,   -9,   -14,        2,          0},  // Door

@@ -16,7 +16,7 @@ struct Weight {
     std::int32_t weight;
 };
 
-using Weights = std::array<std::int32_t, enc::count>;
+using Weights = std::array<std::int32_t, encounterCount>;
 
 constexpr Weights weightsOf(std::initializer_list<Weight> list) {
     Weights weights{};
@@ -95,7 +95,7 @@ constexpr bool everyLocationCanBeDealt() {
 }
 static_assert(everyLocationCanBeDealt());
 
-using Percentages = std::array<int, enc::count>;
+using Percentages = std::array<int, encounterCount>;
 
 constexpr Percentages percentagesOf(const Location& location) {
     Percentages all{};

@@ -19,7 +19,7 @@ struct Location {
     std::string_view name;
     std::int32_t backgroundTile;
     std::int32_t deckLength;  // its closing The End included
-    std::array<std::int32_t, enc::count> encounterWeights;
+    std::array<std::int32_t, encounterCount> encounterWeights;
 };
 
 inline constexpr int locationCount = 9;

@@ -95,15 +95,15 @@ struct HelpPage {
 };
 
 // clang-format off
-constexpr std::array<HelpPage, help_page::count> helpPages{{
-    {help_page::basic,      "Basic",      1,          [](int) { drawKeyLines(basicHelp); }},
-    {help_page::keyboard,   "Keyboard",   1,          [](int) { drawKeyLines(keyboardHelp); }},
-    {help_page::encounters, "Encounters", enc::count, drawEncounterEntry},
-    {help_page::stats,      "Stats",      itemCount,  drawItemEntry},
-    {help_page::skills,     "Skills",     skillCount, drawSkillEntry},
-    {help_page::powers,     "Powers",     powerCount, drawPowerEntry},
-    {help_page::autoplayer, "Autoplayer", 1,          [](int) { drawDescription(autoplayerHelp, top); }},
-    {help_page::about,      "About",      1,          [](int) { drawAbout(); }},
+constexpr std::array<HelpPage, helpPageCount> helpPages{{
+    {help_page::basic,       "Basic",      1,              [](int) { drawKeyLines(basicHelp); }},
+    {help_page::keyboard,    "Keyboard",   1,              [](int) { drawKeyLines(keyboardHelp); }},
+    {help_page::encounters,  "Encounters", encounterCount, drawEncounterEntry},
+    {help_page::stats,       "Stats",      itemCount,      drawItemEntry},
+    {help_page::skills,      "Skills",     skillCount,     drawSkillEntry},
+    {help_page::powers,      "Powers",     powerCount,     drawPowerEntry},
+    {help_page::autoplayer,  "Autoplayer", 1,              [](int) { drawDescription(autoplayerHelp, top); }},
+    {help_page::about,       "About",      1,              [](int) { drawAbout(); }},
 }};
 // clang-format on
 static_assert(rowsStandAtTheirIndex(helpPages, &HelpPage::id));
@@ -112,8 +112,8 @@ const HelpPage& helpPage(int page) { return helpPages[static_cast<std::size_t>(p
 
 }  // namespace
 
-constexpr std::array<std::string_view, help_page::count> helpPageLabels = [] {
-    std::array<std::string_view, help_page::count> labels;
+constexpr std::array<std::string_view, helpPageCount> helpPageLabels = [] {
+    std::array<std::string_view, helpPageCount> labels;
     for (std::size_t i = 0; i < labels.size(); ++i) labels[i] = helpPages[i].label;
     return labels;
 }();

@@ -9,10 +9,10 @@ namespace gloomdeck {
 /// The pages in menu order.
 namespace help_page {
 enum Id { basic, keyboard, encounters, stats, skills, powers, autoplayer, about };
-inline constexpr int count = 8;
 }  // namespace help_page
+inline constexpr int helpPageCount = 8;
 
-extern const std::array<std::string_view, help_page::count> helpPageLabels;
+extern const std::array<std::string_view, helpPageCount> helpPageLabels;
 
 /// Entries that a page (0 to 7) steps through: those of its catalogue table, 1 for the others.
 int helpEntryCount(int page);

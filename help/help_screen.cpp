@@ -30,7 +30,7 @@ constexpr int doneTop = 294;
 
 struct HelpState {
     int page = help_page::encounters;
-    std::array<int, help_page::count> entries{};
+    std::array<int, helpPageCount> entries{};
 };
 
 int& entryOf(HelpState& state) { return state.entries[static_cast<std::size_t>(state.page)]; }
@@ -49,7 +49,7 @@ void openScreen() {
     placeButton(done, roundedRatio(contentPanel.x1 + contentPanel.x2 - done.width, 2), doneTop);
     placeButton(widget(id::prev), prevPlace.x, prevPlace.y);
     placeButton(widget(id::next), nextPlace.x, nextPlace.y);
-    widget(id::helpMenu).height = help_page::count * widget(id::helpMenu).cellHeight;
+    widget(id::helpMenu).height = helpPageCount * widget(id::helpMenu).cellHeight;
     drawButton(done);
 }
 
@@ -79,7 +79,7 @@ void drawPage(HelpState& state) {
 }
 
 void turnTo(HelpState& state, int page) {
-    state.page = aroundEnds(page, help_page::count);
+    state.page = aroundEnds(page, helpPageCount);
     drawPage(state);
 }
 

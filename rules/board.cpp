@@ -16,7 +16,7 @@ std::int64_t topPosition(int col) { return std::int64_t{column(col).drawn} + row
 int drawWeighted(int location) {
     const int roll = Roll(100);
     int sum = 0;
-    for (int code = 0; code < enc::count; ++code) {
+    for (int code = 0; code < encounterCount; ++code) {
         sum += dealPercentage(location, code);
         if (dealPercentage(location, code) > 0 && roll <= sum) return code;
     }

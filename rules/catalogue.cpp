@@ -7,7 +7,7 @@
 namespace gloomdeck {
 
 // clang-format off
-constexpr std::array<EncounterType, enc::count> EncounterTable{{
+constexpr std::array<EncounterType, encounterCount> EncounterTable{{
     {.code = enc::Gold, .name = "Gold", .tile = tile::gold, .ghostMayEnter = true, .filthMaySpread = true,
      .sunChance = never, .shieldChance = never, .lightningChance = never, .monster = none,
      .description = "Use gold to increase skills. Click the gold picture in the stats bar to the right of the map "
@@ -89,7 +89,7 @@ constexpr std::array<EncounterType, enc::count> EncounterTable{{
 }};
 static_assert(rowsStandAtTheirIndex(EncounterTable, &EncounterType::code));
 
-const std::array<MonsterType, monster::count> MonsterTable{{
+const std::array<MonsterType, monsterCount> MonsterTable{{
     // threshold      dice      bonus  becomes
     {       0, { 6, 0, 0},        0,   none},       // Skeleton
     {  -30000, {20, 0, 0},        0,   none},       // Trap

@@ -58,11 +58,11 @@ struct PowerType {
 /// Rows of the monster table.
 namespace monster {
 enum Row : std::int32_t { skeleton, trap, ghost, oozingFilth, skeletonKing, demon, hypnoEye };
-inline constexpr int count = 7;
 }  // namespace monster
+inline constexpr int monsterCount = 7;
 
-extern const std::array<EncounterType, enc::count> EncounterTable;
-extern const std::array<MonsterType, monster::count> MonsterTable;
+extern const std::array<EncounterType, encounterCount> EncounterTable;
+extern const std::array<MonsterType, monsterCount> MonsterTable;
 extern const std::array<PowerType, powerCount> PowerTable;
 
 // These two also hold the run-time fields; the Gold row's tile is set for every game.

@@ -11,7 +11,7 @@ namespace gloomdeck {
 
 namespace {
 
-std::array<Button, id::count> widgets;
+std::array<Button, widgetCount> widgets;
 
 struct Placement {
     int id;
@@ -101,7 +101,7 @@ void placeGrid(int widgetId, int gridId, const Grid& g) {
 }  // namespace
 
 Button& widget(int widgetId) {
-    const bool known = widgetId > 0 && widgetId < id::count;
+    const bool known = widgetId > 0 && widgetId < widgetCount;
     return widgets[static_cast<std::size_t>(known ? widgetId : 0)];
 }
 

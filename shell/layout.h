@@ -32,8 +32,8 @@ inline constexpr int prefs = 19;
 inline constexpr int continueGame = 20;
 inline constexpr int training = 21;  // the first of its rows
 inline constexpr int toggle = training + trainingRows;
-inline constexpr int count = toggle + toggleRows;
 }  // namespace id
+inline constexpr int widgetCount = id::toggle + toggleRows;  ///< ids end below it
 
 /// The record of an id; ids that no widget has share one that is hidden.
 Button& widget(int widgetId);

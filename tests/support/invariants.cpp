@@ -27,7 +27,7 @@ std::string brokenInvariant() {
         expect("drawn of column", col, c.drawn, 0, locationRow(location).deckLength);
         expect("unusedFlags of column", col, c.unusedFlags, 0, 0);
         for (int row = 0; row < rowCount; ++row)
-            expect("the code of cell", rowCount * col + row, cell(col, row), 0, enc::count - 1);
+            expect("the code of cell", rowCount * col + row, cell(col, row), 0, encounterCount - 1);
     }
     for (int item = 0; item < itemCount; ++item)
         if (item != health) expect("the count of item", item, count(item), 0, unlimited);
