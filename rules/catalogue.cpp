@@ -10,8 +10,8 @@ namespace gloomdeck {
 constexpr std::array<EncounterType, encounterCount> EncounterTable{{
     {.code = enc::Gold, .name = "Gold", .tile = tile::gold, .ghostMayEnter = true, .filthMaySpread = true,
      .sunChance = never, .shieldChance = never, .lightningChance = never, .monster = none,
-     .description = "Use gold to increase skills. Click the gold picture in the stats bar to the right of the map "
-                    "to activate the training and trading screen."},
+     .description = "Use gold to increase skills. "
+                    "Click the gold picture in the stats bar to the right of the map to activate the training and trading screen."},
     {.code = enc::Door, .name = "Door", .tile = tile::door, .ghostMayEnter = false, .filthMaySpread = true,
      .sunChance = never, .shieldChance = 0, .lightningChance = 2, .monster = none,
      .description = "Takes 1 key to open."},
