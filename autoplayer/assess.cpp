@@ -5,16 +5,16 @@
 #include "autoplayer/autoplayer_table.h"
 #include "platform/geometry.h"
 #include "platform/rounding.h"
-#include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
+#include "rules/monsters.h"
 
 namespace gloomdeck {
 
 namespace {
 
 constexpr int hiddenValue = -100;
-constexpr int trapDamage = 60;  // three times the trap's die
 
 // A cell under assessment: its table row, where it stands, and what comes out.
 struct Subject {
@@ -27,9 +27,18 @@ struct Subject {
     bool atBottom() const { return row == bottomRow; }
 };
 
-int thresholdOf(const Subject& s) { return monsterType(encounterType(s.code).monster).healthThreshold; }
+int monsterRowOf(const Subject& s) { return encounterType(s.code).monster; }
 
-bool survives(const Subject& s) { return count(health) > ExpectedDamage(encounterType(s.code).monster); }
+int thresholdOf(const Subject& s) { return monsterType(monsterRowOf(s)).healthThreshold; }
+
+bool survives(const Subject& s) { return count(health) > ExpectedDamage(monsterRowOf(s)); }
+
+// What a hit is reckoned at before anything reduces it: three times its dice, seven times its bonus.
+std::int64_t fearedDamage(int monsterRow) {
+    const MonsterType& type = monsterType(monsterRow);
+    const std::int64_t dice = std::int64_t{type.dice[0]} + type.dice[1] + type.dice[2];
+    return 3 * dice + std::int64_t{7} * type.bonus;
+}
 
 void makeHard(Subject& s) {
     s.a.category = category::obstacle;
@@ -92,7 +101,7 @@ void assessDoor(Subject& s) { assessLock(s, 20, 8, 1); }
 void assessDoubleDoor(Subject& s) { assessLock(s, 25, 10, 2); }
 
 void assessTrap(Subject& s) {
-    if (count(health) > ReduceDamage(trapDamage))
+    if (count(health) > ReduceDamage(fearedDamage(monsterRowOf(s))))
         s.a.value = s.values.easyValue;
     else
         makeHard(s);
@@ -227,10 +236,8 @@ int faded(int value, int distance) {
 enum class Neighbour { blocked, hidden, open };
 
 Neighbour neighbourAt(int col, int row) {
-    if (!InBounds(col, row)) return Neighbour::blocked;
-    const bool hidden = IsHiddenByEye(col, row);
-    if (!encounterType(cell(col, row)).ghostMayEnter && !hidden) return Neighbour::blocked;
-    return hidden ? Neighbour::hidden : Neighbour::open;
+    if (InBounds(col, row) && IsHiddenByEye(col, row)) return Neighbour::hidden;
+    return ghostIsLetIn(col, row) ? Neighbour::open : Neighbour::blocked;  // past the end counts as open
 }
 
 }  // namespace
@@ -251,11 +258,12 @@ Assessment assessBoard(const EyeRows& eyeRows) {
 
 bool CategoryEnabled(int categoryNumber) {
     switch (categoryNumber) {
-        case category::goodStuff: return prefs.goodStuff && (prefs.fairlyEasy || noPowerIsActive());
-        case category::fairlyEasy: return prefs.fairlyEasy;
-        case category::obstacle: return prefs.obstacles;
-        case category::spells: return prefs.spellsSkills;
-        case category::grief: return prefs.grief;
+        case category::goodStuff:
+            return switchIsOn(Switch::goodStuff) && (switchIsOn(Switch::fairlyEasy) || noPowerIsActive());
+        case category::fairlyEasy: return switchIsOn(Switch::fairlyEasy);
+        case category::obstacle: return switchIsOn(Switch::obstacles);
+        case category::spells: return switchIsOn(Switch::spellsSkills);
+        case category::grief: return switchIsOn(Switch::grief);
         default: return false;
     }
 }
@@ -297,11 +305,7 @@ int ReduceDamage(std::int64_t n) {
     return static_cast<int>(std::max<std::int64_t>(roundedQuotient(10 * n - level(toughness), 10), 0));
 }
 
-int ExpectedDamage(int monsterRow) {
-    const MonsterType& type = monsterType(monsterRow);
-    const std::int64_t dice = std::int64_t{type.dice[0]} + type.dice[1] + type.dice[2];
-    return ReduceDamage(ReduceDamage(3 * dice + std::int64_t{7} * type.bonus));
-}
+int ExpectedDamage(int monsterRow) { return ReduceDamage(ReduceDamage(fearedDamage(monsterRow))); }
 
 int TrapState(int col, int row) {
     int blocked = 0;
@@ -319,7 +323,7 @@ int TrapState(int col, int row) {
 bool NoGhostTarget() {
     for (int col = 0; col < columnCount; ++col)
         for (int row = 0; row < rowCount; ++row)
-            if (!IsPastEnd(col, row) && encounterType(cell(col, row)).ghostMayEnter) return false;
+            if (ghostMayGo(col, row)) return false;
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "autoplayer/autoplayer_table.h"
 #include "platform/geometry.h"
 #include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "rules/board_turn.h"
 #include "rules/catalogue.h"
@@ -20,9 +21,7 @@ namespace {
 // Board places: x is the column, y the row.
 using Target = std::optional<Point>;
 
-bool anySwitchIsOn() {
-    return prefs.goodStuff || prefs.fairlyEasy || prefs.obstacles || prefs.grief || prefs.spellsSkills;
-}
+bool mayMove() { return (prefs.switches & switchesWith(&SwitchType::allowsMoves)) != 0; }
 
 std::int64_t lightningHope(int code) {
     const int chance = encounterType(code).lightningChance;
@@ -32,7 +31,7 @@ std::int64_t lightningHope(int code) {
 // True when a lightning bolt or a bomb was spent on the cell.
 bool UseWeapon(Point at) {
     const int code = cell(at.x, at.y);
-    if (!prefs.spellsSkills) return false;
+    if (!switchIsOn(Switch::spellsSkills)) return false;
     if (count(lightningBolts) >= 1 && lightningHope(code) >= 1) {
         CastLightning(0, at.x);
         return true;
@@ -74,14 +73,14 @@ Move findMove() {
     const EyeRows eyeRows = eyeRowsNow();
     Move move;
     if (!boardDone) move = chooseMove(assessBoard(eyeRows));
-    if (!move.found && prefs.grief) move.found = sweepGrief(eyeRows);
+    if (!move.found && switchIsOn(Switch::grief)) move.found = sweepGrief(eyeRows);
     return move;
 }
 
 }  // namespace
 
 void RunAutoplayer() {
-    if (!anySwitchIsOn()) return;
+    if (!mayMove()) return;
     for (bool done = false; !done;) {
         const Move move = findMove();
         if (!move.found) return;

@@ -1,9 +1,11 @@
 #include "autoplayer/autoplayer_table.h"
 
+#include "platform/table.h"
+
 namespace gloomdeck {
 
 // clang-format off
-const std::array<AutoplayerRow, enc::count> AutoplayerTable{{
+const std::array<AutoplayerRow, encounterCount> AutoplayerTable{{
     // powered  base  easy  hard  worst  category  bottomOnly
     {        0,    6,    0,    0,     0,        1,          0},  // Gold
     {        0,    0,   -1,   -9,   -14,        2,          0},  // Door
@@ -32,8 +34,6 @@ const std::array<AutoplayerRow, enc::count> AutoplayerTable{{
 }};
 // clang-format on
 
-const AutoplayerRow& autoplayerRow(int code) {
-    return AutoplayerTable[static_cast<std::size_t>(code >= 0 && code < enc::count ? code : enc::Empty)];
-}
+const AutoplayerRow& autoplayerRow(int code) { return rowAt(AutoplayerTable, code, enc::Empty); }
 
 }  // namespace gloomdeck

@@ -28,7 +28,7 @@ struct AutoplayerRow {
     std::int32_t bottomOnly;  // 1: a column's score looks at the bottom cell only
 };
 
-extern const std::array<AutoplayerRow, enc::count> AutoplayerTable;
+extern const std::array<AutoplayerRow, encounterCount> AutoplayerTable;
 
 /// The row of a code; one outside 0 to 23 has Empty's.
 const AutoplayerRow& autoplayerRow(int code);

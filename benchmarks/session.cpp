@@ -11,6 +11,7 @@
 #include "platform/input.h"
 #include "platform/random.h"
 #include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "shell/palette.h"
 #include "shell/play/play_view.h"
@@ -40,7 +41,7 @@ void startSession(const char* folder) {
     prefs.GameSpeed = speedCount - 1;
     prefs.currentScreen = screen_id::play;
     prefs.campaignChoice = -1;
-    prefs.goodStuff = prefs.fairlyEasy = prefs.obstacles = prefs.grief = prefs.spellsSkills = 1;
+    prefs.switches = switchesWith(&SwitchType::allowsMoves);
 }
 
 void startGame(int scenario, std::uint64_t seed) {

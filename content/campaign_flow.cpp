@@ -6,7 +6,7 @@
 #include "content/deal_board.h"
 #include "content/scenarios.h"
 #include "content/story_texts.h"
-#include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/dice.h"
 #include "rules/game_state.h"
 #include "rules/show.h"
@@ -15,15 +15,13 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int randomStage = -19;  // entries below ask for a random scenario
-
 bool someScenarioHas(int difficulty) {
     return std::any_of(ScenarioTable.begin(), ScenarioTable.end(),
                        [=](const Scenario& scenario) { return scenario.difficulty == difficulty; });
 }
 
 int randomScenarioOf(int difficulty) {
-    if (!someScenarioHas(difficulty)) return 0;
+    if (!someScenarioHas(difficulty)) return scenario_id::treasury;
     while (true) {
         const int i = Roll(scenarioTableSize) - 1;
         if (scenarioRow(i).difficulty == difficulty) return i;
@@ -33,12 +31,11 @@ int randomScenarioOf(int difficulty) {
 }  // namespace
 
 void startCampaignStage() {
-    int entry = stageEntry(campaignRow(game.campaign), game.campaignStage);
-    if (entry < randomStage) entry = randomScenarioOf(difficultyWanted(entry));
-    buildScenarioBoard(entry);
-    if (prefs.restartSwitch || prefs.skipText) return;
-    const std::int64_t number = std::int64_t{game.campaignStage} + 1;
-    showStory(storyText(game.campaign, static_cast<int>(std::clamp<std::int64_t>(number, 0, 99))));
+    const int entry = stageEntry(campaignRow(game.campaign), game.campaignStage);
+    const int difficulty = difficultyWanted(entry);
+    buildScenarioBoard(difficulty != 0 ? randomScenarioOf(difficulty) : entry);
+    if (switchIsOn(Switch::restartSwitch) || switchIsOn(Switch::skipText)) return;
+    showStory(storyText(game.campaign, std::int64_t{game.campaignStage} + 1));
 }
 
 void nextCampaignStage() {

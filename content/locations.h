@@ -9,11 +9,17 @@
 
 namespace gloomdeck {
 
+/// Indices of the locations.
+namespace location_id {
+enum Id : std::int32_t { cellar, ruins, portal, dungeon, treasury, hideout, easy, alley, crags };
+}  // namespace location_id
+
 struct Location {
+    location_id::Id id;  // its own row
     std::string_view name;
     std::int32_t backgroundTile;
     std::int32_t deckLength;  // its closing The End included
-    std::array<std::int32_t, enc::count> encounterWeights;
+    std::array<std::int32_t, encounterCount> encounterWeights;
 };
 
 inline constexpr int locationCount = 9;

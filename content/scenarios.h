@@ -5,22 +5,31 @@
 #include <cstdint>
 #include <string_view>
 
+#include "content/locations.h"
+
 namespace gloomdeck {
 
+/// Indices of the scenarios.
+namespace scenario_id {
+enum Id : std::int32_t { treasury, easy, ruins, dungeon, magicPortals, thievesDen, banditCamp };
+}  // namespace scenario_id
+
 struct Scenario {
+    scenario_id::Id id;  // its own row
     std::string_view name;
-    std::int32_t difficulty;                      // 1 to 5
-    std::array<std::int32_t, 7> columnLocations;  // before shuffling
+    std::int32_t difficulty;                         // 1 to difficultyCount
+    std::array<location_id::Id, 7> columnLocations;  // before shuffling
     std::int32_t trainingAllowed;
     std::int32_t tradingAllowed;
     std::int32_t pictureTile;
 };
 
+inline constexpr int difficultyCount = 5;
 inline constexpr int scenarioTableSize = 7;
 extern const std::array<Scenario, scenarioTableSize> ScenarioTable;
 
-/// The order of the scenario list on the selection screen, as indices into ScenarioTable.
-extern const std::array<std::int32_t, scenarioTableSize> scenarioListOrder;
+/// The order of the scenario list on the selection screen.
+extern const std::array<scenario_id::Id, scenarioTableSize> scenarioListOrder;
 
 /// The row of an index; one out of range has the first row.
 const Scenario& scenarioRow(int index);

@@ -11,6 +11,7 @@
 #include "platform/random.h"
 #include "prefs/prefs.h"
 #include "prefs/saved_data.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "rules/game_state.h"
 #include "tests/support/reset.h"
@@ -57,9 +58,7 @@ void shortenColumns(InputBytes& bytes) {
 }
 
 void setSwitches(InputBytes& bytes) {
-    const int bits = bytes.byte();
-    for (int bit = 0; bit < 7; ++bit)
-        if (switchIsOn(bit) != ((bits >> bit & 1) != 0)) flipSwitch(bit);
+    prefs.switches = static_cast<std::uint32_t>(bytes.byte()) & everySwitch;
 }
 
 }  // namespace
@@ -69,7 +68,7 @@ void dealGame(InputBytes& bytes) {
     ApplyDefaults();
     chooseGame(bytes);
     randomize(bytes.byte());
-    prefs.skipText = 1;  // without a window no story is told
+    setSwitch(Switch::skipText, true);  // without a window no story is told
     startNewGame();
     equipHero(bytes);
     shortenColumns(bytes);

@@ -5,6 +5,7 @@
 
 #include "help/help_texts.h"
 #include "platform/draw.h"
+#include "platform/table.h"
 #include "rules/catalogue.h"
 #include "shell/palette.h"
 #include "shell/play/describe.h"
@@ -20,7 +21,14 @@ constexpr int top = 28;
 constexpr int charactersPerLine = 28;
 constexpr int lineStep = 12;
 constexpr int boxTop = 216;
-constexpr int chanceLift = 10;
+constexpr Point entryName{146, 39};
+constexpr int entryTextTop = 70;
+constexpr int aboutMiddle = 218;
+constexpr int aboutPicturesTop = 58;
+constexpr int aboutTextTop = 108;
+constexpr int aboutStep = 2 * tile::size;
+
+int boxLeft(int box) { return left + tile::size * box; }
 
 // Names of keys stand before a colon and are drawn in yellow.
 void drawKeyLines(std::span<const HelpLine> lines) {
@@ -32,15 +40,19 @@ void drawKeyLines(std::span<const HelpLine> lines) {
     }
 }
 
+void drawDescription(std::string_view text, int y) {
+    drawWrappedText(std::string(text), left, y, charactersPerLine, lineStep);
+}
+
 void drawEntry(int behind, int tileNumber, std::string_view name, std::string_view description) {
     putTile(behind, left, top, putCopy);
     putTile(tileNumber, left, top, putTransparent);
-    drawText(146, 39, name);
-    drawWrappedText(std::string(description), left, 70, charactersPerLine, lineStep);
+    drawText(entryName.x, entryName.y, name);
+    drawDescription(description, entryTextTop);
 }
 
 void drawChance(int box, int icon, int chance) {
-    const int x = left + tile::size * box;
+    const int x = boxLeft(box);
     drawFramedTile(icon, x, boxTop);
     if (chance != never) drawText(x, boxTop - chanceLift, std::to_string(chance) + "%");
 }
@@ -48,10 +60,10 @@ void drawChance(int box, int icon, int chance) {
 void drawEncounterEntry(int code) {
     const EncounterType& type = encounterType(code);
     drawEntry(tile::pictureFrame, type.tile, type.name, type.description);
-    drawChance(0, tile::shield, type.shieldChance);
-    drawChance(1, tile::sun, type.sunChance);
-    drawChance(2, tile::lightning, type.lightningChance);
-    drawBombBox(code, 234, boxTop);
+    drawChance(chance_box::shield, tile::shield, type.shieldChance);
+    drawChance(chance_box::sun, tile::sun, type.sunChance);
+    drawChance(chance_box::lightning, tile::lightning, type.lightningChance);
+    drawBombBox(code, boxLeft(chance_box::bomb), boxTop);
 }
 
 void drawItemEntry(int item) {
@@ -67,36 +79,47 @@ void drawPowerEntry(int power) {
 }
 
 void drawAbout() {
-    drawFramedTile(tile::ghost, 138, 58);
-    drawFramedTile(tile::lockedChest, 202, 58);
-    drawFramedTile(tile::scroll, 266, 58);
-    centredText("Gloomdeck", 218, 108);
+    int x = aboutMiddle - aboutStep - tile::size / 2;
+    for (const int picture : {tile::ghost, tile::lockedChest, tile::scroll}) {
+        drawFramedTile(picture, x, aboutPicturesTop);
+        x += aboutStep;
+    }
+    centredText("Gloomdeck", aboutMiddle, aboutTextTop);
 }
+
+struct HelpPage {
+    help_page::Id id;  // its own row
+    std::string_view label;
+    int entries;
+    void (*draw)(int entry);
+};
+
+// clang-format off
+constexpr std::array<HelpPage, helpPageCount> helpPages{{
+    {help_page::basic,       "Basic",      1,              [](int) { drawKeyLines(basicHelp); }},
+    {help_page::keyboard,    "Keyboard",   1,              [](int) { drawKeyLines(keyboardHelp); }},
+    {help_page::encounters,  "Encounters", encounterCount, drawEncounterEntry},
+    {help_page::stats,       "Stats",      itemCount,      drawItemEntry},
+    {help_page::skills,      "Skills",     skillCount,     drawSkillEntry},
+    {help_page::powers,      "Powers",     powerCount,     drawPowerEntry},
+    {help_page::autoplayer,  "Autoplayer", 1,              [](int) { drawDescription(autoplayerHelp, top); }},
+    {help_page::about,       "About",      1,              [](int) { drawAbout(); }},
+}};
+// clang-format on
+static_assert(rowsStandAtTheirIndex(helpPages, &HelpPage::id));
+
+const HelpPage& helpPage(int page) { return helpPages[static_cast<std::size_t>(page)]; }
 
 }  // namespace
 
-int helpEntryCount(int page) {
-    switch (page) {
-        case help_page::encounters: return enc::count;
-        case help_page::stats: return itemCount;
-        case help_page::skills: return skillCount;
-        case help_page::powers: return powerCount;
-        default: return 1;
-    }
-}
+constexpr std::array<std::string_view, helpPageCount> helpPageLabels = [] {
+    std::array<std::string_view, helpPageCount> labels;
+    for (std::size_t i = 0; i < labels.size(); ++i) labels[i] = helpPages[i].label;
+    return labels;
+}();
 
-void drawHelpPage(int page, int entry) {
-    switch (page) {
-        case help_page::basic: return drawKeyLines(basicHelp);
-        case help_page::keyboard: return drawKeyLines(keyboardHelp);
-        case help_page::encounters: return drawEncounterEntry(entry);
-        case help_page::stats: return drawItemEntry(entry);
-        case help_page::skills: return drawSkillEntry(entry);
-        case help_page::powers: return drawPowerEntry(entry);
-        case help_page::autoplayer:
-            return drawWrappedText(std::string(autoplayerHelp), left, top, charactersPerLine, lineStep);
-        default: return drawAbout();
-    }
-}
+int helpEntryCount(int page) { return helpPage(page).entries; }
+
+void drawHelpPage(int page, int entry) { helpPage(page).draw(entry); }
 
 }  // namespace gloomdeck

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "help/help_pages.h"
-#include "help/help_texts.h"
 #include "platform/draw.h"
 #include "platform/input.h"
 #include "platform/rounding.h"
@@ -22,12 +21,13 @@ namespace {
 constexpr int barHeight = 488;
 constexpr Rect contentPanel{98, 20, 337, 256};
 constexpr Rect besidePanel{345, 20, 409, 363};
-constexpr int contentLeft = 106;
-constexpr int contentRight = 337;
+constexpr Point prevPlace{98, 264};
+constexpr Point nextPlace{273, 264};
+constexpr int doneTop = 294;
 
 struct HelpState {
     int page = help_page::encounters;
-    std::array<int, help_page::count> entries{};
+    std::array<int, helpPageCount> entries{};
 };
 
 int& entryOf(HelpState& state) { return state.entries[static_cast<std::size_t>(state.page)]; }
@@ -47,10 +47,10 @@ void drawGround() {
     drawHeaderBar(barHeight);
     Button& done = widget(id::done);
     done.caption = "OK";
-    placeButton(done, roundedRatio(2 * contentLeft + contentRight - (contentLeft + 8) - done.width, 2), 294);
-    placeButton(widget(id::prev), 98, 264);
-    placeButton(widget(id::next), 273, 264);
-    widget(id::helpMenu).height = help_page::count * widget(id::helpMenu).cellHeight;
+    placeButton(done, roundedRatio(contentPanel.x1 + contentPanel.x2 - done.width, 2), doneTop);
+    placeButton(widget(id::prev), prevPlace.x, prevPlace.y);
+    placeButton(widget(id::next), nextPlace.x, nextPlace.y);
+    widget(id::helpMenu).height = helpPageCount * widget(id::helpMenu).cellHeight;
     drawButton(done);
 }
 
@@ -80,7 +80,7 @@ void drawPage(HelpState& state) {
 }
 
 void turnTo(HelpState& state, int page) {
-    state.page = aroundEnds(page, help_page::count);
+    state.page = aroundEnds(page, helpPageCount);
     drawPage(state);
 }
 

@@ -6,22 +6,6 @@
 
 namespace gloomdeck {
 
-/// The pages in menu order.
-namespace help_page {
-inline constexpr int basic = 0;
-inline constexpr int keyboard = 1;
-inline constexpr int encounters = 2;
-inline constexpr int stats = 3;
-inline constexpr int skills = 4;
-inline constexpr int powers = 5;
-inline constexpr int autoplayer = 6;
-inline constexpr int about = 7;
-inline constexpr int count = 8;
-}  // namespace help_page
-
-inline constexpr std::array<std::string_view, help_page::count> helpPageLabels{
-    "Basic", "Keyboard", "Encounters", "Stats", "Skills", "Powers", "Autoplayer", "About"};
-
 struct HelpLine {
     int y;
     std::string_view text;

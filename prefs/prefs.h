@@ -29,20 +29,14 @@ struct Prefs {
     std::int32_t spare;
     std::int32_t scenarioChoice;  // position in the scenario list
     std::int32_t campaignChoice;  // -1: a single scenario was chosen
-    std::uint32_t goodStuff : 1;
-    std::uint32_t fairlyEasy : 1;
-    std::uint32_t obstacles : 1;
-    std::uint32_t grief : 1;
-    std::uint32_t spellsSkills : 1;
-    std::uint32_t restartSwitch : 1;
-    std::uint32_t skipText : 1;
-    std::uint32_t unusedSwitches : 25;
+    std::uint32_t switches;       // bits of prefs/switches.h
 };
 
 static_assert(sizeof(Prefs) == 52 && std::is_trivially_copyable_v<Prefs>);
 static_assert(offsetof(Prefs, heroName) == 12 && offsetof(Prefs, padding) == 34 &&
               offsetof(Prefs, spare) == 36);
-static_assert(offsetof(Prefs, scenarioChoice) == 40 && offsetof(Prefs, campaignChoice) == 44);
+static_assert(offsetof(Prefs, scenarioChoice) == 40 && offsetof(Prefs, campaignChoice) == 44 &&
+              offsetof(Prefs, switches) == 48);
 
 extern Prefs prefs;
 
@@ -53,10 +47,6 @@ int speedIndex();
 
 /// "Slowest" (0) to "Mega fast" (6); a speed outside is named as the nearest end.
 std::string_view SpeedName(int speed);
-
-/// The seven switches by their bit (0 to 6); any other bit is off.
-bool switchIsOn(int bit);
-void flipSwitch(int bit);
 
 /// A name as text, at most 20 characters.
 std::string_view nameText(const std::array<char, 21>& name);

@@ -6,6 +6,7 @@
 
 #include "platform/files.h"
 #include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/game_state.h"
 
 namespace gloomdeck {
@@ -73,8 +74,7 @@ void ApplyDefaults() {
     prefs.spare = 2000001;
     prefs.scenarioChoice = 0;
     prefs.campaignChoice = 0;
-    prefs.goodStuff = prefs.fairlyEasy = prefs.obstacles = prefs.grief = 0;
-    prefs.spellsSkills = prefs.restartSwitch = prefs.skipText = 0;
+    prefs.switches = (prefs.switches & ~everySwitch) | switchesWith(&SwitchType::onAtFirst);
 }
 
 void SaveData() { save(game, prefs); }

@@ -16,7 +16,7 @@ std::int64_t topPosition(int col) { return std::int64_t{column(col).drawn} + row
 int drawWeighted(int location) {
     const int roll = Roll(100);
     int sum = 0;
-    for (int code = 0; code < enc::count; ++code) {
+    for (int code = 0; code < encounterCount; ++code) {
         sum += dealPercentage(location, code);
         if (dealPercentage(location, code) > 0 && roll <= sum) return code;
     }
@@ -29,12 +29,14 @@ bool InBounds(int col, int row) { return col >= 0 && col < columnCount && row >=
 
 bool IsPastEnd(int col, int row) { return deckLengthOf(col) < topPosition(col) - row; }
 
-int FirstEyeRow(int col) {
-    if (isActive(magicSight)) return none;
-    for (int row = 0; row < bottomRow; ++row)
+int highestEye(int col, int lastRow, Sight sight) {
+    if (sight == Sight::counts && isActive(magicSight)) return none;
+    for (int row = 0; row <= lastRow; ++row)
         if (cell(col, row) == enc::HypnoEye) return row;
     return none;
 }
+
+int FirstEyeRow(int col) { return highestEye(col, bottomRow - 1, Sight::counts); }
 
 bool IsHiddenByEye(int col, int row) {
     const int eyeRow = FirstEyeRow(col);

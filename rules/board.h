@@ -13,7 +13,13 @@ bool InBounds(int col, int row);
 /// True when the cell lies beyond the column's The End.
 bool IsPastEnd(int col, int row);
 
-/// The highest Hypno Eye of rows 0 to 5 (row 6 is not searched), or -1; always -1 under magic sight.
+/// Whether magic sight sees through an eye, so that none is found while it lasts.
+enum class Sight { counts, ignored };
+
+/// The highest Hypno Eye of rows 0 to lastRow, or -1.
+int highestEye(int col, int lastRow, Sight sight);
+
+/// The eye that hides what lies below it: highestEye above the bottom row, and magic sight counts.
 int FirstEyeRow(int col);
 
 /// True from the eye's own row downwards.

@@ -1,27 +1,17 @@
 #include "rules/catalogue.h"
 
+#include "platform/table.h"
 #include "rules/dice.h"
 #include "rules/tiles.h"
 
 namespace gloomdeck {
 
-namespace {
-
-template <typename Table>
-constexpr bool rowsStandAtTheirCode(const Table& table) {
-    for (std::size_t i = 0; i < table.size(); ++i)
-        if (static_cast<std::size_t>(table[i].code) != i) return false;
-    return true;
-}
-
-}  // namespace
-
 // clang-format off
-constexpr std::array<EncounterType, enc::count> EncounterTable{{
+constexpr std::array<EncounterType, encounterCount> EncounterTable{{
     {.code = enc::Gold, .name = "Gold", .tile = tile::gold, .ghostMayEnter = true, .filthMaySpread = true,
      .sunChance = never, .shieldChance = never, .lightningChance = never, .monster = none,
-     .description = "Use gold to increase skills. Click the gold picture in the stats bar to the right of the map "
-                    "to activate the training and trading screen."},
+     .description = "Use gold to increase skills. "
+                    "Click the gold picture in the stats bar to the right of the map to activate the training and trading screen."},
     {.code = enc::Door, .name = "Door", .tile = tile::door, .ghostMayEnter = false, .filthMaySpread = true,
      .sunChance = never, .shieldChance = 0, .lightningChance = 2, .monster = none,
      .description = "Takes 1 key to open."},
@@ -97,9 +87,9 @@ constexpr std::array<EncounterType, enc::count> EncounterTable{{
      .sunChance = never, .shieldChance = never, .lightningChance = never, .monster = none,
      .description = "Gives magic vision, 1 health."},
 }};
-static_assert(rowsStandAtTheirCode(EncounterTable));
+static_assert(rowsStandAtTheirIndex(EncounterTable, &EncounterType::code));
 
-const std::array<MonsterType, monster::count> MonsterTable{{
+const std::array<MonsterType, monsterCount> MonsterTable{{
     // threshold      dice      bonus  becomes
     {       0, { 6, 0, 0},        0,   none},       // Skeleton
     {  -30000, {20, 0, 0},        0,   none},       // Trap
@@ -145,9 +135,7 @@ const std::array<PowerType, powerCount> PowerTable{{
 std::array<ItemType, itemCount> ItemTable = builtInItems;
 std::array<SkillType, skillCount> SkillTable = builtInSkills;
 
-const EncounterType& encounterType(int code) {
-    return EncounterTable[static_cast<std::size_t>(code >= 0 && code < enc::count ? code : enc::Empty)];
-}
+const EncounterType& encounterType(int code) { return rowAt(EncounterTable, code, enc::Empty); }
 
 const MonsterType& monsterType(int row) { return MonsterTable[static_cast<std::size_t>(row)]; }
 ItemType& itemType(int item) { return ItemTable[static_cast<std::size_t>(item)]; }

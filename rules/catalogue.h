@@ -44,7 +44,7 @@ struct SkillType {
     std::string_view name;
     std::int32_t tile;
     std::int32_t statsRow;  // the item row beside which it stands
-    std::int32_t price;     // gold for 5 percentage points
+    std::int32_t price;     // gold for a training step
     std::string_view description;
     std::int32_t highlightTurns;
 };
@@ -58,11 +58,11 @@ struct PowerType {
 /// Rows of the monster table.
 namespace monster {
 enum Row : std::int32_t { skeleton, trap, ghost, oozingFilth, skeletonKing, demon, hypnoEye };
-inline constexpr int count = 7;
 }  // namespace monster
+inline constexpr int monsterCount = 7;
 
-extern const std::array<EncounterType, enc::count> EncounterTable;
-extern const std::array<MonsterType, monster::count> MonsterTable;
+extern const std::array<EncounterType, encounterCount> EncounterTable;
+extern const std::array<MonsterType, monsterCount> MonsterTable;
 extern const std::array<PowerType, powerCount> PowerTable;
 
 // These two also hold the run-time fields; the Gold row's tile is set for every game.

@@ -33,8 +33,8 @@ enum Code : std::int32_t {
     HypnoEye,
     Flower
 };
-inline constexpr int count = 24;
 }  // namespace enc
+inline constexpr int encounterCount = 24;
 
 /// Indices of the inventory and of the item table.
 enum Item : std::int32_t { keys, torches, gold, shields, lightningBolts, suns, bombs, hands, health };

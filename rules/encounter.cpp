@@ -25,25 +25,31 @@ int gain(int item, int n) {
     return 1;
 }
 
-int fight(monster::Row row) { return TakeDamage(MonsterDamage(row), 1, monsterType(row).healthThreshold); }
+// A required hit is refused by a hero who is too weak for it.
+int takeHit(enc::Code code, int required) {
+    const int row = encounterType(code).monster;
+    return TakeDamage(MonsterDamage(row), required, monsterType(row).healthThreshold);
+}
 
-int springTrap() { return TakeDamage(Roll(20), 0, 0); }
+int fight(enc::Code code) { return takeHit(code, 1); }
+
+int springTrap() { return takeHit(enc::Trap, 0); }
 
 int meetGhost(Meeting& m) {
-    if (!ghostFlees(m.col, m.row)) return fight(monster::ghost);
+    if (!ghostFlees(m.col, m.row)) return fight(enc::Ghost);
     m.stayPut = true;
     return 1;
 }
 
 int meetFilth(Meeting& m) {
-    if (!TakeDamage(3 + Roll(3), 1, 0)) return 0;
+    if (!fight(enc::OozingFilth)) return 0;
     if (!isActive(stasis)) Steal(0);
     m.stayPut = filthSpreads(m.col, m.row) || m.stayPut;
     return 1;
 }
 
 int meetDemon(Meeting& m) {
-    if (!demonTeleports(m.col, m.row)) return TakeDamage(5 + Roll(10), 1, 0);
+    if (!demonTeleports(m.col, m.row)) return fight(enc::Demon);
     m.stayPut = true;
     return 1;
 }
@@ -99,7 +105,7 @@ int applyRule(enc::Code code, Meeting& m) {
     switch (code) {
         case enc::Gold: return gain(gold, Roll(10));
         case enc::Door: return OpenLock(1);
-        case enc::Skeleton: return fight(monster::skeleton);
+        case enc::Skeleton: return fight(code);
         case enc::Trap: return springTrap();
         case enc::Darkness: return UseTorches(1);
         case enc::Backpack: return unpackBackpack();
@@ -111,7 +117,7 @@ int applyRule(enc::Code code, Meeting& m) {
         case enc::Fruit: return gain(health, Roll(6));
         case enc::Thief: return meetThief();
         case enc::OozingFilth: return meetFilth(m);
-        case enc::SkeletonKing: return fight(monster::skeletonKing);
+        case enc::SkeletonKing: return fight(code);
         case enc::Demon: return meetDemon(m);
         case enc::DoubleDoor: return OpenLock(2);
         case enc::LockedChest: return takeLockedChest();
@@ -119,7 +125,7 @@ int applyRule(enc::Code code, Meeting& m) {
         case enc::Cave: return UseTorches(2);
         case enc::MasterThief: return meetMasterThief();
         case enc::Book: return learnFromBook();
-        case enc::HypnoEye: return fight(monster::hypnoEye);
+        case enc::HypnoEye: return fight(code);
         case enc::Flower: return smellFlower();
     }
     return 1;  // a code that no tile has comes from a damaged file: it is cleared like Empty

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
 #include "rules/show.h"
@@ -10,18 +11,12 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr int highestSkill = 95;
 constexpr int highlightLasts = 2;  // board turns
 
-bool holdsEyeAboveBottom(int col) {
-    for (int row = 0; row < bottomRow; ++row)
-        if (cell(col, row) == enc::HypnoEye) return true;
-    return false;
-}
-
+// Columns that look another way when a magic sight begins or ends.
 void redrawEyeColumns() {
     for (int col = 0; col < columnCount; ++col)
-        if (holdsEyeAboveBottom(col)) drawColumn(col);
+        if (highestEye(col, bottomRow - 1, Sight::ignored) != none) drawColumn(col);
 }
 
 }  // namespace

@@ -19,10 +19,6 @@ constexpr int boardCells = columnCount * rowCount;
 // Board places: x is the column, y the row.
 using Cell = Point;
 
-bool ghostMayGo(Cell to) {
-    return InBounds(to.x, to.y) && !IsPastEnd(to.x, to.y) && encounterType(cell(to.x, to.y)).ghostMayEnter;
-}
-
 bool filthMayGo(Cell to) {
     return InBounds(to.x, to.y) && !IsPastEnd(to.x, to.y) && encounterType(cell(to.x, to.y)).filthMaySpread;
 }
@@ -48,10 +44,10 @@ std::optional<Cell> demonTarget() {
     Cell c;
     for (int pick = 0; pick < randomPicks; ++pick) {
         c = randomCell();
-        if (ghostMayGo(c)) return c;
+        if (ghostMayGo(c.x, c.y)) return c;
     }
     for (int looked = 0; looked < boardCells; ++looked, c = nextCell(c))
-        if (ghostMayGo(c)) return c;
+        if (ghostMayGo(c.x, c.y)) return c;
     return {};
 }
 
@@ -66,13 +62,19 @@ void teleport(Cell from, Cell to) {
 
 }  // namespace
 
+bool ghostIsLetIn(int col, int row) {
+    return InBounds(col, row) && encounterType(cell(col, row)).ghostMayEnter;
+}
+
+bool ghostMayGo(int col, int row) { return ghostIsLetIn(col, row) && !IsPastEnd(col, row); }
+
 bool ghostFlees(int col, int row) {
     const Cell here{col, row};
     Cell first{col - 1, row};
     Cell second{col + 1, row};
     if (Roll(100) <= 50) std::swap(first, second);
     for (const Cell to : {Cell{col, row - 1}, first, second, Cell{col, row + 1}}) {
-        if (!ghostMayGo(to)) continue;
+        if (!ghostMayGo(to.x, to.y)) continue;
         if (isActive(stasis)) return false;
         moveInto(here, to, enc::Ghost);
         return true;

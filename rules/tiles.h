@@ -1,10 +1,13 @@
 // Tile numbers by what the pictures show. Tiles are 32 x 32 pixels, numbered 1 to 148.
 #pragma once
 
+namespace gloomdeck {
+inline constexpr int tileCount = 148;
+}  // namespace gloomdeck
+
 namespace gloomdeck::tile {
 
 inline constexpr int size = 32;  ///< pixels a side
-inline constexpr int count = 148;
 
 // Encounters; several serve as icons elsewhere too.
 inline constexpr int scroll = 1;

@@ -2,6 +2,7 @@
 
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
+#include "rules/hero.h"
 
 namespace gloomdeck {
 
@@ -15,8 +16,6 @@ const std::array<TradeOffer, tradeOfferCount> TradeOffers{{
 // clang-format on
 
 namespace {
-
-constexpr int trainingStep = 5;
 
 bool pay(int price) {
     if (count(gold) < price) return false;

@@ -14,12 +14,11 @@ struct TradeOffer {
 };
 
 inline constexpr int tradeOfferCount = 3;
+inline constexpr int trainingRows = skillCount + tradeOfferCount;  ///< the skills, then the offers
 extern const std::array<TradeOffer, tradeOfferCount> TradeOffers;
 const TradeOffer& tradeOffer(int offer);
 
-inline constexpr int highestTrainable = 90;
-
-/// Buys 5 percentage points of a skill, or what an offer offers; false with too little gold, and nothing
+/// Buys a training step of a skill, or what an offer offers; false with too little gold, and nothing
 /// changes.
 bool buyTraining(int skill);
 bool buyOffer(int offer);

@@ -11,6 +11,7 @@
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/input.h"
+#include "platform/table.h"
 #include "prefs/prefs.h"
 #include "rules/tiles.h"
 #include "shell/palette.h"
@@ -30,9 +31,24 @@ constexpr std::size_t longestTyped = 17;
 constexpr double blinkTime = 0.25;  // seconds each way
 constexpr Rect infoPanel{8, 32, 252, 128};
 constexpr Rect nameField{8, 172, 252, 192};
-constexpr int nameLeft = 16;
+constexpr int textLeft = 16;
+constexpr int nameLabelTop = 162;
 constexpr int nameTop = 178;
+constexpr int cursorGap = 2;  // between the name and the cursor
+constexpr int cursorTop = 180;
+constexpr int cursorWidth = 4;
+constexpr int cursorHeight = 5;
 constexpr Point picturePlace{212, 40};
+constexpr int titleTop = 40;
+constexpr int storyTop = 60;
+constexpr int storyWidth = 25;  // characters a line
+constexpr int storyStep = 12;
+constexpr int difficultyTop = 92;
+constexpr int stagesTop = 102;
+constexpr Point listPlace{260, 32};
+constexpr int buttonsTop = 200;
+constexpr int buttonGap = 8;  // from Start to the list
+constexpr int exitGap = 72;   // from Exit to the list
 
 enum class Outcome { open, start, exit };
 
@@ -46,43 +62,43 @@ struct Selection {
 
 int& rowOf(Selection& s) { return s.rows[static_cast<std::size_t>(s.tab)]; }
 
-int inRange(int row, int length) { return row >= 0 && row < length ? row : 0; }
-
 Selection selectionFromPrefs() {
     Selection s;
     s.tab = prefs.campaignChoice == -1 ? selection_tab::scenarios : selection_tab::campaigns;
-    s.rows = {inRange(prefs.campaignChoice, campaignCount), inRange(prefs.scenarioChoice, scenarioTableSize)};
+    s.rows = {indexOr(prefs.campaignChoice, campaignCount), indexOr(prefs.scenarioChoice, scenarioTableSize)};
     s.name = nameText(prefs.heroName);
     s.nextBlink = timer() + blinkTime;
     return s;
 }
 
-int characterLeft(std::size_t i) { return nameLeft + glyphSize * static_cast<int>(i); }
+int characterLeft(std::size_t i) { return textLeft + glyphSize * static_cast<int>(i); }
 
 void drawCursor(Selection& s, bool grey) {
-    const int x = characterLeft(s.name.size()) + 2;
-    fillBox(x, 180, x + 3, 184, grey ? colour::face : colour::yellow);
+    const int x = characterLeft(s.name.size()) + cursorGap;
+    fillBox(x, cursorTop, x + cursorWidth - 1, cursorTop + cursorHeight - 1,
+            grey ? colour::face : colour::yellow);
     s.cursorIsGrey = grey;
 }
 
+// The character and the cursor behind it.
 void blankCharacter(std::size_t i) {
     const int x = characterLeft(i);
-    fillBox(x, nameField.y1 + 1, x + 15, nameField.y2 - 1, colour::black);
+    fillBox(x, nameField.y1 + 1, x + 2 * glyphSize - 1, nameField.y2 - 1, colour::black);
 }
 
 void drawNameField(Selection& s) {
-    drawText(16, 162, "Hero Name:");
+    drawText(textLeft, nameLabelTop, "Hero Name:");
     frameBox(nameField.x1, nameField.y1, nameField.x2, nameField.y2);
-    drawText(nameLeft, nameTop, s.name);
+    drawText(textLeft, nameTop, s.name);
     drawCursor(s, false);
 }
 
 void placeWidgets() {
     Button& list = widget(id::list);
     Button& done = widget(id::done);
-    placeButton(list, 260, 32);
-    placeButton(done, list.x - 8 - done.width, 200);
-    placeButton(widget(id::selectionExit), list.x - 72 - done.width, 200);
+    placeButton(list, listPlace.x, listPlace.y);
+    placeButton(done, list.x - buttonGap - done.width, buttonsTop);
+    placeButton(widget(id::selectionExit), list.x - exitGap - done.width, buttonsTop);
     done.caption = "Start";
     widget(id::selectionExit).caption = "Exit";
 }
@@ -109,8 +125,8 @@ void drawGround(Selection& s) {
 void drawHeading(std::string_view name, int pictureTile, int difficulty) {
     frameBox(infoPanel.x1, infoPanel.y1, infoPanel.x2, infoPanel.y2);
     drawFramedTile(pictureTile, picturePlace.x, picturePlace.y);
-    drawText(16, 40, name, colour::yellow);
-    drawText(16, 92, difficultyName(difficulty));
+    drawText(textLeft, titleTop, name, colour::yellow);
+    drawText(textLeft, difficultyTop, difficultyName(difficulty));
 }
 
 void drawInfo(Selection& s) {
@@ -120,8 +136,8 @@ void drawInfo(Selection& s) {
     }
     const Campaign& campaign = campaignRow(rowOf(s));
     drawHeading(campaign.name, campaign.pictureTile, campaign.difficulty);
-    drawWrappedText(std::string(storyText(rowOf(s), 0)), 16, 60, 25, 12);
-    drawText(16, 102, std::to_string(campaign.scenarioCount) + " scenarios");
+    drawWrappedText(std::string(storyText(rowOf(s), 0)), textLeft, storyTop, storyWidth, storyStep);
+    drawText(textLeft, stagesTop, std::to_string(campaign.scenarioCount) + " scenarios");
 }
 
 // Mouse clicks start from what is handed to the widgets here.

@@ -1,11 +1,11 @@
 #include "prefs/screen/prefs_screen.h"
 
-#include <array>
 #include <string>
 
 #include "platform/draw.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "shell/palette.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/pacing.h"
@@ -19,20 +19,7 @@ namespace {
 constexpr Rect panel{84, 100, 324, 370};
 constexpr int centreLine = 204;
 
-struct SwitchRow {
-    std::string_view label;
-    int bit;
-};
-
-constexpr std::array<SwitchRow, toggleRows> switchRows{{{"Good stuff: ", 0},
-                                                        {"Fairly easy: ", 1},
-                                                        {"Obstacles: ", 2},
-                                                        {"Spells/skills: ", 4},
-                                                        {"\"Grief\": ", 3},
-                                                        {"Restart: ", 5},
-                                                        {"Skip text: ", 6}}};
-
-const SwitchRow& switchRow(int row) { return switchRows[static_cast<std::size_t>(row)]; }
+const SwitchType& switchOfRow(int row) { return SwitchTable[static_cast<std::size_t>(row)]; }
 
 int besideSpeedDown() { return widget(id::speedDown).x + widget(id::speedDown).width + 8; }
 
@@ -83,7 +70,7 @@ void handleClick(int clicked) {
     if (clicked == id::speedDown) return changeSpeed(speedDown);
     const int row = clicked - id::toggle;
     if (row < 0 || row >= toggleRows) return;
-    flipSwitch(switchBitOfRow(row));
+    flipSwitch(switchOfRow(row).bit);
     DrawSwitchRow(row);
 }
 
@@ -105,16 +92,14 @@ bool handle(const ScreenEvent& event) {
 
 std::string_view OnOffText(int on) { return on == 1 ? "On " : "Off"; }
 
-int switchBitOfRow(int row) { return switchRow(row).bit; }
-
 void DrawSwitchRow(int row) {
     const Button& button = widget(id::toggle + row);
     drawButton(button);
     const int x = button.x + button.width + 8;
     const int y = button.y;
-    const bool on = switchIsOn(switchBitOfRow(row));
+    const bool on = switchIsOn(switchOfRow(row).bit);
     fillBox(x, y, x + 150, y + 16, colour::black);
-    drawText(x + 4, y + 4, std::string(switchRow(row).label) + std::string(OnOffText(on ? 1 : 0)),
+    drawText(x + 4, y + 4, std::string(switchOfRow(row).label) + std::string(OnOffText(on ? 1 : 0)),
              on ? colour::yellow : colour::slate);
 }
 

@@ -15,7 +15,4 @@ std::string_view OnOffText(int on);
 void DrawSwitchRow(int row);
 void DrawSpeedRow();
 
-/// The bit of the switch that a row shows; two rows are crossed.
-int switchBitOfRow(int row);
-
 }  // namespace gloomdeck

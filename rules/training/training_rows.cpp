@@ -3,6 +3,7 @@
 #include "platform/draw.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
+#include "rules/hero.h"
 #include "rules/training.h"
 #include "shell/palette.h"
 #include "shell/widgets/layout.h"
@@ -24,7 +25,7 @@ void drawBand(int y, bool even, int tileNumber) {
 }
 
 void sayWhatIsNeeded(int price) {
-    ShowTrainingMessage(" You need " + std::to_string(price) + " " + "Gold" + ".");
+    ShowTrainingMessage(" You need " + std::to_string(price) + " " + std::string(itemType(gold).name) + ".");
 }
 
 }  // namespace
@@ -54,7 +55,9 @@ void DrawTrainingRow(int skill) {
         plus.hidden = true;
         eraseButton(plus);
     }
-    drawText(textLeft, plus.y + 4, std::to_string(type.price) + " gold for 5% " + std::string(type.name));
+    drawText(textLeft, plus.y + 4,
+             std::to_string(type.price) + " gold for " + std::to_string(trainingStep) + "% " +
+                 std::string(type.name));
     drawText(textLeft, plus.y + 18, " (Currently " + std::to_string(level(skill)) + "%)", colour::yellow);
 }
 

@@ -4,6 +4,7 @@
 
 #include "content/locations.h"
 #include "platform/draw.h"
+#include "platform/font.h"
 #include "platform/rounding.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
@@ -21,29 +22,27 @@ namespace {
 constexpr int longestName = 20;
 constexpr int nameTop = 56;
 constexpr int nameStep = 10;
+constexpr int beamSpread = 30;  // pixels that a beam's end may lie apart
 
 const Location& locationOf(int col) { return locationRow(column(col).location); }
 
-// Draws the cells from the top; the answer is the row of the eye that hides what lies below it, or -1.
-int drawCells(int col) {
-    int eyeRow = none;
+// Below the row of an eye there is bare terrain.
+void drawCells(int col, int eyeRow) {
     for (int row = 0; row < rowCount; ++row) {
         const Point at = boardGrid.corner(col, row);
         putTile(locationOf(col).backgroundTile, at, putCopy);
-        if (eyeRow != none) continue;
+        if (eyeRow != none && row > eyeRow) continue;
         putTile(encounterType(cell(col, row)).tile, at, putTransparent);
         if (IsPastEnd(col, row)) putTile(tile::cover, at, putTransparent);
-        if (cell(col, row) == enc::HypnoEye && !isActive(magicSight)) eyeRow = row;
     }
-    return eyeRow;
 }
 
 void drawBeam(int col, int eyeRow) {
     const Point corner = boardGrid.corner(col, eyeRow);
     const int x1 = corner.x + tile::size / 2;
     const int y1 = corner.y + tile::size / 2;
-    const int n = Roll(30);
-    const int x2 = roundedRatio(2 * (x1 + n) - 31, 2);
+    const int n = Roll(beamSpread);
+    const int x2 = roundedRatio(2 * (x1 + n) - (beamSpread + 1), 2);
     for (const int dx : {-1, 0, 1}) drawLine(x1 + dx, y1, x2 + dx, boardGrid.area().y2, colour::brown);
 }
 
@@ -61,7 +60,7 @@ void drawOutlinedText(int x, int y, std::string_view text) {
 
 void drawNameDown(int col) {
     const std::string_view name = locationOf(col).name.substr(0, longestName);
-    const int x = boardGrid.corner(col, 0).x + tile::size / 2 - 4;
+    const int x = boardGrid.corner(col, 0).x + (tile::size - glyphSize) / 2;
     for (std::size_t i = 0; i < name.size(); ++i)
         drawOutlinedText(x, nameTop + nameStep * static_cast<int>(i), name.substr(i, 1));
 }
@@ -77,7 +76,8 @@ void drawBoard() {
 
 void drawColumn(int col) {
     const HeldScreen held;
-    const int eyeRow = drawCells(col);
+    const int eyeRow = highestEye(col, bottomRow, Sight::counts);  // in the bottom row it has a beam too
+    drawCells(col, eyeRow);
     if (eyeRow != none) drawBeam(col, eyeRow);
     drawCounter(col);
     if (column(col).finished) drawNameDown(col);

@@ -17,9 +17,13 @@ namespace {
 constexpr int textLeft = 15;
 constexpr int textTop = 406;
 constexpr int boxTop = 416;
-constexpr int chanceLift = 10;  // a percentage stands above its box
+constexpr int boxesLeft = 143;
+constexpr Point itemText{55, 426};
 
-void drawChanceBox(int x, int icon, int chance, int boost) {
+int boxLeft(int box) { return boxesLeft + tile::size * box; }
+
+void drawChanceBox(int box, int icon, int chance, int boost) {
+    const int x = boxLeft(box);
     drawFramedTile(icon, x, boxTop);
     if (chance == never)
         putTile(tile::cover, x, boxTop, putTransparent);
@@ -32,10 +36,10 @@ void describeEncounter(int col, int code) {
     putTile(locationRow(column(col).location).backgroundTile, textLeft, boxTop, putCopy);
     putTile(type.tile, textLeft, boxTop, putTransparent);
     drawText(textLeft, textTop, type.name);
-    drawChanceBox(143, tile::shield, type.shieldChance, level(shieldBoost));
-    drawChanceBox(175, tile::sun, type.sunChance, level(sunBoost));
-    drawChanceBox(207, tile::lightning, type.lightningChance, level(lightningBoost));
-    drawBombBox(code, 271, boxTop);
+    drawChanceBox(chance_box::shield, tile::shield, type.shieldChance, level(shieldBoost));
+    drawChanceBox(chance_box::sun, tile::sun, type.sunChance, level(sunBoost));
+    drawChanceBox(chance_box::lightning, tile::lightning, type.lightningChance, level(lightningBoost));
+    drawBombBox(code, boxLeft(chance_box::bomb), boxTop);
 }
 
 }  // namespace
@@ -68,7 +72,7 @@ void describeItem(int row) {
     const ItemType& type = itemType(row);
     drawFramedTile(type.tile, textLeft, boxTop);
     drawText(textLeft, textTop, std::string(type.name) + ": ");
-    drawText(55, 426, type.description);
+    drawText(itemText.x, itemText.y, type.description);
 }
 
 }  // namespace gloomdeck

@@ -8,7 +8,7 @@ namespace gloomdeck {
 
 namespace {
 
-std::array<Button, id::count> widgets;
+std::array<Button, widgetCount> widgets;
 
 struct Placement {
     int id;
@@ -65,10 +65,9 @@ void placeWidget(const Placement& p) {
 void placeRows() {
     for (int row = 0; row < trainingRows; ++row)
         placeWidget({id::training + row, 16, 48 + 35 * row, 32, 32, 32, 32, "+"});
-    for (int row = 0; row < toggleRows; ++row) {
-        const int y = row == toggleRows - 1 ? 306 : 174 + 19 * row;
-        placeWidget({id::toggle + row, 98, y, 52, 16, 52, 16, "on/off"});
-    }
+    for (int row = 0; row < toggleRows; ++row)
+        placeWidget(
+            {id::toggle + row, 98, SwitchTable[static_cast<std::size_t>(row)].top, 52, 16, 52, 16, "on/off"});
 }
 
 void placeGrid(int widgetId, int gridId, const Grid& g) {
@@ -80,7 +79,7 @@ void placeGrid(int widgetId, int gridId, const Grid& g) {
 }  // namespace
 
 Button& widget(int widgetId) {
-    const bool known = widgetId > 0 && widgetId < id::count;
+    const bool known = widgetId > 0 && widgetId < widgetCount;
     return widgets[static_cast<std::size_t>(known ? widgetId : 0)];
 }
 

@@ -1,9 +1,13 @@
 // Every widget of every screen: its id, and its place at the start.
 #pragma once
 
+#include "prefs/switches.h"
+#include "rules/training.h"
 #include "shell/widgets/button.h"
 
 namespace gloomdeck {
+
+inline constexpr int toggleRows = switchCount;
 
 /// Widget ids, as the click handler reports them.
 namespace id {
@@ -24,15 +28,12 @@ inline constexpr int speedUp = 16;
 inline constexpr int speedDown = 17;
 inline constexpr int prefs = 19;
 inline constexpr int continueGame = 20;
-inline constexpr int training = 21;  // rows 0 to 8: 21 to 29
-inline constexpr int toggle = 30;    // rows 0 to 6: 30 to 36
-inline constexpr int count = 37;
+inline constexpr int training = 21;  // the first of its rows
+inline constexpr int toggle = training + trainingRows;
 }  // namespace id
+inline constexpr int widgetCount = id::toggle + toggleRows;  ///< ids end below it
 
-inline constexpr int trainingRows = 9;
-inline constexpr int toggleRows = 7;
-
-/// The record of an id (1 to 36); ids that no widget has share one that is hidden.
+/// The record of an id; ids that no widget has share one that is hidden.
 Button& widget(int widgetId);
 
 /// Initialises every record and gives it its place at the start.

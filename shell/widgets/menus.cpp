@@ -13,6 +13,7 @@ namespace gloomdeck {
 namespace {
 
 constexpr std::array<std::string_view, 2> tabNames{"Campaign", "Scenario"};
+constexpr int letterHeight = 6;  // that an item's text is centred by
 
 void drawMenuItem(const Button& menu, int col, int row, std::string_view text, bool isSelected) {
     const int x = menu.x + menu.cellWidth * col;
@@ -24,14 +25,14 @@ void drawMenuItem(const Button& menu, int col, int row, std::string_view text, b
     drawBox(x, y, right, bottom, colour::edge);
     const int length = static_cast<int>(text.size());
     const int textX = roundedRatio(2 * x + menu.cellWidth - length * glyphSize, 2);
-    const int textY = roundedRatio(2 * y + menu.cellHeight - 6, 2);
+    const int textY = roundedRatio(2 * y + menu.cellHeight - letterHeight, 2);
     drawText(textX, textY, text, isSelected ? colour::face : colour::edge);
 }
 
 }  // namespace
 
 void drawTabs(int selected) {
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < static_cast<int>(tabNames.size()); ++i)
         drawMenuItem(widget(id::tabs), i, 0, tabNames[static_cast<std::size_t>(i)], i == selected);
 }
 

@@ -38,6 +38,24 @@ inline constexpr Rect messageBar{8, 335, 400, 392};
 inline constexpr Rect infoArea{7, 400, 400, 456};
 inline constexpr Rect dayDisplay{308, 7, 371, 38};
 
+// Beside each item's icon in the stats column: how many there are, and in some rows a skill.
+inline constexpr int statsTextDrop = 12;  // texts stand that far below the row's top
+inline constexpr int countTextLeft = 288;
+inline constexpr int skillIconLeft = 328;
+inline constexpr int skillTextLeft = 366;
+constexpr Rect countBox(int row) { return {278, statsGrid.corner(0, row).y, 325, statsGrid.cell(0, row).y2}; }
+constexpr Rect skillBox(int row) { return {326, statsGrid.corner(0, row).y, 397, statsGrid.cell(0, row).y2}; }
+
+// The powers, side by side below the board: an icon, and beside it the turns that are left.
+constexpr Rect powerBox(int power) {
+    const int left = boardGrid.x + 2 * tile::size * power;
+    return {left, 280, left + 2 * tile::size - 1, 280 + tile::size - 1};
+}
+constexpr Rect powerTurns(int power) {
+    const Rect box = powerBox(power);
+    return {box.x1 + 34, box.y1 + 12, box.x2 + 2, box.y1 + 22};
+}
+
 }  // namespace place
 
 }  // namespace gloomdeck

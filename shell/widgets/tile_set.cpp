@@ -7,7 +7,7 @@
 
 namespace gloomdeck {
 
-std::array<Image, tile::count> tileImages;
+std::array<Image, tileCount> tileImages;
 Image cellBackup;
 
 namespace {
@@ -39,7 +39,7 @@ void cutStrip(const Strip& strip, Image& work) {
 
 const Image& tileImage(int number) {
     static const Image nothing;
-    if (number < 1 || number > tile::count) return nothing;
+    if (number < 1 || number > tileCount) return nothing;
     return tileImages[static_cast<std::size_t>(number - 1)];
 }
 

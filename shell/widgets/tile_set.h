@@ -10,8 +10,8 @@
 
 namespace gloomdeck {
 
-extern std::array<Image, tile::count> tileImages;  ///< tile n at index n - 1
-extern Image cellBackup;                           ///< what the hover covers
+extern std::array<Image, tileCount> tileImages;  ///< tile n at index n - 1
+extern Image cellBackup;                         ///< what the hover covers
 
 /// Tile n; a number outside 1 to 148 has an empty image, which draws nothing.
 const Image& tileImage(int number);

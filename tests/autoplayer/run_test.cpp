@@ -1,6 +1,6 @@
 // Runs: what stops them, what is spent on grief, and what every move takes with it.
-#include "shell/palette.h"
 #include "rules/show.h"
+#include "shell/palette.h"
 #include "shell/widgets/mouse.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/press.h"

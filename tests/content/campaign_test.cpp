@@ -1,13 +1,13 @@
 // Campaigns: their stages, their story pages, and the hero who goes through them.
 #include <cstring>
 
-#include "shell/play/board_end.h"
 #include "content/campaign_flow.h"
 #include "content/campaigns.h"
 #include "content/game_flow.h"
 #include "rules/show.h"
 #include "rules/tiles.h"
 #include "shell/palette.h"
+#include "shell/play/board_end.h"
 #include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/support/script.h"
@@ -35,21 +35,22 @@ TEST_F(CampaignTest, AStageIsDealtBeforeItsStoryWhichEitherSwitchSkips) {
     startCampaignStage();
     finishScript();
     EXPECT_EQ(pixelAt(9, 41), flatColour(tile::marble)) << "the board is shown afterwards";
-    prefs.skipText = 1;
+    setSwitch(Switch::skipText, true);
     startCampaignStage();
-    prefs.skipText = 0;
-    prefs.restartSwitch = 1;
+    setSwitch(Switch::skipText, false);
+    setSwitch(Switch::restartSwitch, true);
     startCampaignStage();
 }
 
 TEST_F(CampaignTest, RandomStagesAskForADifficulty) {
     for (int entry = -24; entry <= -20; ++entry) EXPECT_EQ(difficultyWanted(entry), -19 - entry);
-    for (const int other : {-25, -most}) EXPECT_EQ(difficultyWanted(other), 1);
+    for (const int other : {-25, -most - 1}) EXPECT_EQ(difficultyWanted(other), 1);
+    for (const int scenario : {-19, 0, most}) EXPECT_EQ(difficultyWanted(scenario), 0);
 }
 
 TEST_F(CampaignTest, TheHeroGoesOnToTheNextStageAndTheContinueButtonGoes) {
     seedRolls(3);
-    prefs.skipText = 1;
+    setSwitch(Switch::skipText, true);
     game.campaign = backAndForth;
     giveHero(7);
     game.turns = 77;

@@ -28,7 +28,7 @@ class SelectionTest : public GameTest {
     void SetUp() override {
         GameTest::SetUp();
         ApplyDefaults();
-        prefs.skipText = 1;
+        setSwitch(Switch::skipText, true);
     }
 
     static void play(const Script& script) {

@@ -45,7 +45,7 @@ void addCatalogue(Signature& s) {
 void addContent(Signature& s) {
     for (int i = 0; i < locationCount; ++i) {
         s.all(locationRow(i).name, locationRow(i).backgroundTile, locationRow(i).deckLength);
-        for (int code = 0; code < enc::count; ++code) s.add(dealPercentage(i, code));
+        for (int code = 0; code < encounterCount; ++code) s.add(dealPercentage(i, code));
     }
     for (const Scenario& t : ScenarioTable) {
         s.all(t.name, t.difficulty, t.trainingAllowed, t.tradingAllowed, t.pictureTile,

@@ -77,7 +77,7 @@ TEST_F(HelpTest, ArrowsGoThroughThePagesAndAroundAndOnlyTablesHaveStepButtons) {
     };
     Script script;
     script.then(stands(help_page::encounters)).key(keycode::up).key(keycode::up);
-    for (int page = 0; page < help_page::count; ++page) script.then(stands(page)).key(keycode::down);
+    for (int page = 0; page < helpPageCount; ++page) script.then(stands(page)).key(keycode::down);
     play(script.then(stands(help_page::basic)).key(keycode::up).then(stands(help_page::about)));
 }
 

@@ -124,8 +124,7 @@ class EveryScreenTest : public PlayTest {
                 if (pixelAt(r.x1 + 4, r.y1 + 4) == flatColour(tile::scorch)) apart.push_back(r);
             }
             for (int item = 0; item < itemCount; ++item)
-                if (itemType(item).highlightTurns > 0)
-                    apart.push_back({278, 40 + 32 * item, 325, 71 + 32 * item});
+                if (itemType(item).highlightTurns > 0) apart.push_back(place::countBox(item));
             const Image standing = screen();
             const Pixels expected = frameWithout(apart);
             openPlayScreen();

@@ -15,7 +15,8 @@ void fill(int code) {
 
 // Every code twice, from the top left; two of them are eyes, one high up and one in the bottom row.
 void everyCode() {
-    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = i % enc::count;
+    for (int i = 0; i < columnCount * rowCount; ++i)
+        cell(i % columnCount, i / columnCount) = i % encounterCount;
 }
 
 void leave(int col, int tiles) { column(col).drawn = locationRow(column(col).location).deckLength - tiles; }
@@ -115,7 +116,7 @@ void playEncounters(StagedPlay& play) {
          }},
     };
     for (const auto& [where, prepare] : settings)
-        for (int code = 0; code < enc::count; ++code) {
+        for (int code = 0; code < encounterCount; ++code) {
             scene(play, std::string(encounterType(code).name) + where, [=, prepare = prepare] {
                 std::fill_n(column(3).cells.begin(), rowCount, enc::Fruit);
                 cell(2, bottomRow) = enc::Chest;
@@ -159,7 +160,7 @@ void playSpells(StagedPlay& play) {
         });
         aimAt(play, bombs, boardCell(at.x, at.y));
     }
-    for (int code = 0; code < enc::count; ++code) {
+    for (int code = 0; code < encounterCount; ++code) {
         scene(play, "hand on " + std::string(encounterType(code).name), everyCode);
         aimAt(play, hands, boardCell(code % columnCount, code / columnCount));
     }
@@ -174,7 +175,8 @@ void playSpells(StagedPlay& play) {
 
 void playAutoplayer(StagedPlay& play) {
     const auto allowAll = [] {
-        prefs.goodStuff = prefs.fairlyEasy = prefs.obstacles = prefs.grief = 1;
+        for (const Switch s : {Switch::goodStuff, Switch::fairlyEasy, Switch::obstacles, Switch::grief})
+            setSwitch(s, true);
         giveHero(200);
         count(lightningBolts) = count(bombs) = 3;
     };
@@ -183,7 +185,7 @@ void playAutoplayer(StagedPlay& play) {
             everyCode();
             for (int col = 0; col < columnCount; ++col) leave(col, 8);
             allowAll();
-            prefs.spellsSkills = weapons ? 1 : 0;
+            setSwitch(Switch::spellsSkills, weapons);
         });
         play.click(boardCell(0, bottomRow));
     }

@@ -15,8 +15,8 @@ void holdAndLetGo(StagedPlay& play, Point at);
 void holdAll(StagedPlay& play, const std::vector<int>& widgets);
 
 /// Those of the play screen but for the stats column, which counts wherever it is let go.
-inline const std::vector<int> playWidgets{id::board,  id::newGame, id::exit,        id::replay,
-                                          id::help,   id::prefs,   id::continueGame};
+inline const std::vector<int> playWidgets{id::board, id::newGame, id::exit,        id::replay,
+                                          id::help,  id::prefs,   id::continueGame};
 
 /// Begins a step on the play screen: a hero with twenty of everything, an empty board of seven terrains in
 /// its second turn at normal speed, and what prepare changes of that, drawn afresh.

@@ -63,7 +63,7 @@ void playTraining(StagedPlay& play) {
 void playHelp(StagedPlay& play) {
     scene(play, "help", [] {});
     play.key("H").key(keycode::left);
-    for (int page = 0; page < help_page::count; ++page) {
+    for (int page = 0; page < helpPageCount; ++page) {
         play.step("help page " + std::string(helpPageLabels[static_cast<std::size_t>(page)]));
         play.click({40, 28 + 16 * page}).move(nothing);
         for (int entry = 1; entry < helpEntryCount(page); ++entry) play.key(keycode::right);

@@ -65,7 +65,7 @@ TEST_F(QuickPlayTest, ABoardInPlayIsTheSameInTheNextRun) {
     script = Script().passTitle().screen("Gloomdeck 1.2").check([&] {
         EXPECT_EQ(gameBytes(), before);
         EXPECT_EQ(std::pair(game.scenario, game.turns), std::pair(1, 10)) << "Easy, the third of the list";
-        EXPECT_EQ(std::pair(prefs.GameSpeed, switchIsOn(6)), std::pair(3, true));
+        EXPECT_EQ(std::pair(prefs.GameSpeed, switchIsOn(Switch::skipText)), std::pair(3, true));
     });
     EXPECT_EQ(restart(script.closeWindow()), 0);
     EXPECT_EQ(restart(Script().closeWindow()), 0) << "at the title";

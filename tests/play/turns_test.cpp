@@ -45,14 +45,14 @@ TEST_F(TurnsTest, AMarkedMessageStandsForItsPassAndScrollsAtTheNextTurn) {
 
 TEST_F(TurnsTest, TheAutoplayerFollowsThePlayersOwnTurnAndTheBarScrollsInEachOfItsTurns) {
     script.check([] {
-        prefs.goodStuff = 1;
+        setSwitch(Switch::goodStuff, true);
         for (const int row : {4, 5, 6}) cell(5, row) = enc::Gold;
     });
     meet(1).check([] {
         EXPECT_EQ(std::pair(column(1).drawn, column(5).drawn), std::pair(1, 3));
         EXPECT_EQ(game.turns, 5);
     });
-    bar({"", "", "", ""}).check([] { prefs.goodStuff = 0; });
+    bar({"", "", "", ""}).check([] { setSwitch(Switch::goodStuff, false); });
     meet(1).check([] { EXPECT_EQ(game.turns, 6) << "with its switches off"; });
     finish();
 }

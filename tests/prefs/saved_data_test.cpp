@@ -48,7 +48,8 @@ TEST_F(SavedDataTest, DefaultsStandAtTheirOffsetsAndLeaveThePaddingAndTheUnusedF
     const std::string upToTheFlags = "\2\0\0\0\1\0\0\0\0\0\0\0Alistair"s + std::string(13, '\0') +
                                      "\xFF\xFF\xFF\x81\x84\x1E\0\0\0\0\0\0\0\0\0"s;
     EXPECT_EQ(image(), upToTheFlags + "\x80\xFF\xFF\xFF");
-    prefs.grief = prefs.skipText = 1;
+    setSwitch(Switch::grief, true);
+    setSwitch(Switch::skipText, true);
     EXPECT_EQ(image(), upToTheFlags + "\xC8\xFF\xFF\xFF");
 }
 

@@ -70,7 +70,7 @@ TEST_F(RecordTest, KeepsItsNumbersLeastByteFirstAndItsFlagsInTheLowestBit) {
 }
 
 TEST_F(RecordTest, LimitsAndRandomBytesArePlayedOnAndWhatIsReservedStays) {
-    constexpr std::array<std::uint32_t, 4> limits{0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, enc::count};
+    constexpr std::array<std::uint32_t, 4> limits{0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, encounterCount};
     std::mt19937 random(11);
     seedRolls(4);
     for (std::size_t record = 0; record < 20; ++record) {
@@ -80,7 +80,7 @@ TEST_F(RecordTest, LimitsAndRandomBytesArePlayedOnAndWhatIsReservedStays) {
             word = record < limits.size() ? limits[record] : static_cast<std::uint32_t>(random());
         std::memcpy(&game, words.data(), sizeof game);
         for (int at = 0; record < 12 && at < columnCount * rowCount; ++at)
-            board(at % columnCount, at / columnCount) = static_cast<int>(random() % (enc::count + 1));
+            board(at % columnCount, at / columnCount) = static_cast<int>(random() % (encounterCount + 1));
         playEverything();
     }
 }

@@ -3,8 +3,8 @@
 
 #include "platform/frame.h"
 #include "platform/input.h"
-#include "shell/palette.h"
 #include "rules/show.h"
+#include "shell/palette.h"
 #include "shell/play/describe.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/places.h"

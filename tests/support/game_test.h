@@ -8,6 +8,7 @@
 
 #include "platform/host_script.h"
 #include "prefs/prefs.h"
+#include "prefs/switches.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"

@@ -14,7 +14,8 @@
 namespace gloomdeck {
 namespace {
 
-// Whole seconds of so many have fractions of the same precision, so that no step's times depend on those before it.
+// Whole seconds of so many have fractions of the same precision, so that no step's times depend on those
+// before it.
 constexpr double clockStart = 1 << 16;
 constexpr std::size_t mostFaultsTold = 40;  // each with a picture
 const std::string signatureFile = GLOOMDECK_SIGNATURE_FILE;
