@@ -37,6 +37,7 @@ ROWS = (
     *(Row(f"present of a frame new in every pixel, {scale}x", "the same", None, f"whole present {scale}",
           f"whole present {scale} bare") for scale in (1, 2, 3)),
     Row("one autoplayer move, drawn", "memcpy of the frame", 3, "drawn move", "frame memcpy"),
+    Row("one autoplayer move, without a picture", "the same, drawn", 0.1, "silent move", "drawn move"),
     Row("one assessment and choice", "memcpy of the frame", 0.15, "assessment and choice", "frame memcpy"),
     Row(f"{START}, processor time", "a minimal SDL2 program", 2, "start", "start minimal"),
     Row(f"{START}, time on the clock", "the same", 2, "start clock", "start clock minimal"),

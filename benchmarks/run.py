@@ -44,9 +44,12 @@ def main():
     presents = {name for name in names if " present " in name}
     windowed = {"start", "start clock", "memory", "idle", "idle presents", "idle server"}
     measured = {}
-    plain = {name for name in names - presents if name.removesuffix(" minimal") not in windowed}
+    silent = {name for name in names if name.startswith("silent ")}
+    plain = {name for name in names - presents - silent if name.removesuffix(" minimal") not in windowed}
     if plain:
         measured |= medians("gloomdeck_bench", plain)
+    if silent:
+        measured |= medians("gloomdeck_silent_bench", silent)
     with windows.display() as server:
         if presents:
             measured |= medians("gloomdeck_present_bench", presents, env={**os.environ, "DISPLAY": server.display})
