@@ -241,10 +241,12 @@ class Game:
     def until_at_rest(self, screen):
         self.until(f"rest on the screen '{screen}'", self.is_at_rest)
 
-    def until_ended(self):
+    def until_ended(self, missing_pictures=()):
         code, errors = finish(self.process)
         xlib = errors.startswith("X connection to")  # it tells of a lost server itself
-        check(code == 0 and (xlib or not errors), f"the program ended with code {code} and wrote '{errors}'")
+        expected = "".join(f"gloomdeck: the picture {self.folder}/gfx/{name}.bmp is missing; put it there again\n"
+                           for name in missing_pictures)
+        check(code == 0 and (xlib or errors == expected), f"the program ended with code {code} and wrote '{errors}'")
         return read_saved(self.folder) if (self.folder / "Data").exists() else None
 
 
