@@ -1,6 +1,7 @@
 #include "help/help_pages.h"
 #include "help/help_screen.h"
 #include "help/help_texts.h"
+#include "platform/draw.h"
 #include "shell/layout.h"
 #include "shell/palette.h"
 #include "tests/support/script.h"
@@ -89,10 +90,14 @@ TEST_F(HelpTest, EncountersShowTheirChancesUnlessThereIsNone) {
     }));
 }
 
-TEST_F(HelpTest, TextPagesNameTheirKeysInYellow) {
+TEST_F(HelpTest, TextPagesNameTheirKeysInYellowAndKeepTheirSpelling) {
     drawHelpPage(help_page::keyboard, 0);
     EXPECT_TRUE(textStandsAt(106, 100, "H,?", colour::yellow));
     EXPECT_TRUE(textStandsAt(130, 100, ": Help", colour::text));
+    clearScreen();
+    drawHelpPage(help_page::autoplayer, 0);
+    EXPECT_TRUE(textStandsAt(106, 112, "\"Good\" means that it will", colour::text));
+    EXPECT_TRUE(textStandsAt(106, 136, "beneificial if there is", colour::text));
 }
 
 }  // namespace gloomdeck
