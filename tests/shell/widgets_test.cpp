@@ -110,7 +110,7 @@ TEST_F(WidgetsTest, AMissingStripLeavesItsTilesTransparentAndTheLastTileIsBeyond
     EXPECT_EQ(script::toldLines(),
               std::vector{"the picture " + folder + "/gfx/dtiles2.bmp is missing; put it there again"});
     for (const int number : {1, 49, 99, 147})
-        EXPECT_EQ(tileImage(number).pixels[16 * 33], flatColour(number));
+        EXPECT_EQ(tileImage(number).pixels.at(16 * 33), flatColour(number));
     for (const int number : {50, 98, 148}) EXPECT_EQ(tileImage(number).pixels, nothing.pixels);
     EXPECT_TRUE(tileImage(149).pixels.empty());
 }

@@ -139,7 +139,7 @@ void GameTest::TearDown() {
 
 Colour pixelAt(int x, int y) {
     const int index = y * screen().width + x;
-    return screen().pixels[static_cast<std::size_t>(index)];
+    return screen().pixels.at(static_cast<std::size_t>(index));
 }
 
 bool textStandsAt(int x, int y, std::string_view text, Colour ink) {

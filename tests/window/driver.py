@@ -41,6 +41,16 @@ def check(right, what):
         raise Fault(what)
 
 
+def chosen(tests):
+    """Of the tests by their names those that the further arguments name, or all; --list prints the names instead."""
+    names = sys.argv[3:] or tests
+    if "--list" in names:
+        print(*tests, sep="\n")
+        sys.exit()
+    check(set(names) <= set(tests), f"there is no test '{' '.join(names)}'; --list tells the names")
+    return [tests[name] for name in names]
+
+
 def until(what, condition):
     end = time.monotonic() + LIMIT
     while not condition():
