@@ -72,7 +72,8 @@ void playHelp(StagedPlay& play) {
         holdEveryWidget(play, screen_id::help);
     }
     play.step("help, pages by keys").key(keycode::up).key(keycode::down).key(keycode::down).key(keycode::up);
-    play.step("help, entries kept until it is left").key(keycode::down).key(keycode::down);
+    play.step("help, entries kept until it is left");
+    for (int page = 0; page < 3; ++page) play.key(keycode::down);
     play.button(id::done).key("H").button(id::done);
 }
 

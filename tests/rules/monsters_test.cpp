@@ -54,14 +54,10 @@ TEST_F(MonsterTest, AGhostIsFoughtAtTheEdgeAndBesideAColumnThatHasEnded) {
 
 TEST_F(MonsterTest, FilthSpreadsToEveryNeighbourAndLosesWhatWasThere) {
     board(3, 2) = enc::Chest;
-    board(2, 3) = enc::Door;
     EXPECT_EQ(meetFilth({}, {3, 3}), 1);
     EXPECT_EQ(countOf(enc::OozingFilth), 4);
-}
-
-TEST_F(MonsterTest, FilthInTheBottomRowBecomesThree) {
     EXPECT_EQ(meetFilth({}), 1);
-    EXPECT_EQ(countOf(enc::OozingFilth), 3);
+    EXPECT_EQ(countOf(enc::OozingFilth), 4 + 3);
     EXPECT_EQ(column(3).drawn, 0);
 }
 
@@ -104,16 +100,6 @@ TEST_F(MonsterTest, ADemonScansTheBoardRowByRowFromItsSixthPick) {
         EXPECT_EQ(meet(enc::Demon, picks({{1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}, last})), 1);
         EXPECT_EQ(board(nearer.x, nearer.y), enc::Demon);
     }
-}
-
-TEST_F(MonsterTest, ADemonWithoutAPlaceToGoIsFought) {
-    fillBoard(enc::Door);
-    count(health) = 1;
-    std::vector<FedRoll> drawn = picks({{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}});
-    drawn.insert(drawn.end(), {{10, 7}, noToughness, doorDealt});
-    EXPECT_EQ(meet(enc::Demon, drawn), 1);
-    EXPECT_EQ(count(health), -11);
-    EXPECT_TRUE(advanced());
 }
 
 }  // namespace gloomdeck

@@ -10,20 +10,11 @@ void chances(std::initializer_list<int> drawn) {
     for (const int roll : drawn) rolls({{100, roll}});
 }
 
-// Codes from the bottom row up.
-void pile(int col, std::initializer_list<int> codes) {
-    for (int row = bottomRow; const int code : codes) cell(col, row--) = code;
-}
-
-void onlyColumnIs(int col) {
-    for (int other = 0; other < columnCount; ++other) column(other).finished = other != col;
-}
-
 // Casts over a column of Empty cells with one code in its bottom cell, on which that roll falls.
 int castOnto(int item, int code, int boost, int roll) {
     makeEmptyBoard();
-    onlyColumnIs(3);
-    pile(3, {code});
+    for (const int other : {0, 1, 2, 4, 5, 6}) column(other).finished = 1;
+    cell(3, bottomRow) = code;
     game.skills = {0, 0, boost, boost, boost, 0};
     if (item == lightningBolts) {
         rolls({{26, 1}, {100, roll}, {26, 1}});
@@ -39,24 +30,6 @@ int castOnto(int item, int code, int boost, int roll) {
 }  // namespace
 
 using SpellsTest = GameTest;
-
-TEST_F(SpellsTest, TheSunRollsForEveryCellOfUnfinishedColumnsFromTheTopLeft) {
-    onlyColumnIs(6);
-    column(0).finished = 0;
-    board(0, 0) = enc::Darkness;
-    board(0, 3) = enc::Cave;
-    column(6).drawn = 57;  // The End stands in row 4
-    pile(6, {enc::Skeleton, enc::Empty, enc::TheEnd});
-    chances({100, 1, 1, 20});  // what never works draws its roll too
-    rolls({{15, 14}});         // the cave's contents come right after the hit
-    chances({100, 100, 100});
-    chances({1, 1, 1, 1, 1, 1, 16});  // also for what lies past the end
-    CastSun();
-    EXPECT_EQ(board(0, 0), enc::Empty);
-    EXPECT_EQ(board(0, 3), enc::LockedChest);
-    EXPECT_EQ(board(6, 6), enc::Empty);
-    EXPECT_EQ(column(6).drawn, 57) << "a cleared bottom cell does not move its column";
-}
 
 TEST_F(SpellsTest, AHitNeedsARollUpToTheChanceOfTheTileAndTheSkillAndOnlyTheSpellIsSpent) {
     struct Case {
@@ -89,16 +62,6 @@ TEST_F(SpellsTest, TheBlastTakesTheCentreSurelyTheSidesAtThreeQuartersTheCorners
             EXPECT_EQ(board(2 + i / 3, 2 + i % 3), over && i != 4 ? enc::Chest : enc::Empty) << i;
     }
     EXPECT_EQ(count(bombs), 1) << "the second one was free";
-}
-
-TEST_F(SpellsTest, InACornerTheBlastRollsForFourCellsAndSparesTheEnd) {
-    column(6).drawn = 53;
-    board(6, 0) = enc::TheEnd;
-    board(5, 0) = enc::SkeletonKing;
-    chances({75, 1, 1, 1});
-    DropBomb(0, 1, 6, 0);
-    EXPECT_EQ(board(6, 0), enc::TheEnd);
-    EXPECT_EQ(board(5, 0), enc::Empty) << "a King leaves nothing";
 }
 
 TEST_F(SpellsTest, AFilthWithNowhereToSpreadIsClearedFromAfarAndItsColumnStays) {

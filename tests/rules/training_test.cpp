@@ -57,17 +57,4 @@ TEST_F(TrainingTest, TheScenarioSaysWhetherTrainingAndTradingAreForSale) {
     }
 }
 
-TEST_F(TrainingTest, ASkillIsTrainedUpToNinetyFiveAndNotAtAllAboveNinety) {
-    itemType(gold).tile = tile::goldTraining;
-    count(gold) = 1000;
-    game.skills = {90, 91, 94, 95, 85, 0};
-    visit({0, 0, 1, 2, 3, 4, 4, 5, 5});
-    EXPECT_EQ(game.skills, (std::array<std::int32_t, 7>{95, 91, 94, 95, 95, 10}));
-    EXPECT_EQ(count(gold), 1000 - 50 - 2 * 45 - 2 * 20);
-    game.skills = {};
-    visit({0, 6});
-    EXPECT_EQ(level(lockpicking), 5) << "a later visit shows the button again";
-    EXPECT_EQ(count(keys), 0) << "there is no trading";
-}
-
 }  // namespace gloomdeck

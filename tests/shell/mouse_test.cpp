@@ -36,18 +36,6 @@ TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnIt) {
     EXPECT_EQ(release({300, 20}) + drag({300, 20}, widgetCentre(id::help)), 0) << "pressed on nothing";
 }
 
-TEST_F(MouseTest, APressBelongsToTheScreenItBeganOn) {
-    press(widgetCentre(id::help));
-    startScreenPress();
-    EXPECT_EQ(release(widgetCentre(id::help)), 0);
-    press(boardCell(2, 5));
-    restartPress();
-    moveTo(widgetCentre(id::exit));
-    EXPECT_EQ(pressedWidget, notPressed) << "still the old press";
-    release(widgetCentre(id::exit));
-    EXPECT_EQ(drag(widgetCentre(id::exit), widgetCentre(id::exit)), 1);
-}
-
 TEST_F(MouseTest, ABoardClickMeetsTheBottomTileOfAnOpenColumn) {
     board(2, 5) = board(2, 6) = board(3, 6) = enc::Door;
     count(keys) = 5;
