@@ -1,4 +1,4 @@
-// Campaigns: their stages, their story pages, and the hero who goes through them.
+// New games, and campaigns: their stages, their story pages, and the hero who goes through them.
 #include <cstring>
 
 #include "content/board_end.h"
@@ -23,6 +23,43 @@ void clearBoard() {
 }  // namespace
 
 using CampaignTest = GameTest;
+
+TEST_F(CampaignTest, ANewGameStartsWithAFreshHeroAndLeavesWhatIsNotTheGames) {
+    seedRolls(11);
+    game.playerName.fill('x');
+    game.inventory.fill(55);
+    game.skills.fill(55);
+    game.powers.fill(55);
+    game.campaign = game.turns = game.scoreStanding = 4;
+    game.campaignStage = 3;
+    game.campaignWon = 1;
+    prefs.campaignChoice = none;
+    prefs.scenarioChoice = 1;
+    prefs.heroName = {'B', 'o', '\0', 'r', 'e', 's', 't'};
+    ui.targetMode = target::bomb;
+    ui.messagePosted = true;
+    ShowMessage("old", 0);
+    widget(id::continueGame).hidden = false;
+    itemType(keys).highlightTurns = 1;
+
+    GameState wanted = game;
+    startNewGame();
+
+    wanted.playerName = {'B', 'o'};
+    wanted.inventory = {1, 1, 0, 0, 0, 0, 0, 0, 1, 55};
+    wanted.skills = {0, 0, 0, 0, 0, 0, 55};
+    wanted.powers = {0, 0, 0, 55};
+    wanted.columns = game.columns;
+    wanted.scenario = 5;  // Thieves Den
+    wanted.campaign = wanted.scoreStanding = none;
+    wanted.campaignWon = wanted.turns = 0;
+    EXPECT_EQ(std::memcmp(&game, &wanted, sizeof game), 0);
+    EXPECT_EQ(ui.targetMode, target::none);
+    EXPECT_FALSE(ui.messagePosted);
+    EXPECT_EQ(newestMessage(), "");
+    EXPECT_TRUE(widget(id::continueGame).hidden);
+    EXPECT_EQ(itemType(keys).highlightTurns, 1);
+}
 
 TEST_F(CampaignTest, AStageIsDealtBeforeItsStoryWhichEitherSwitchSkips) {
     seedRolls(3);

@@ -57,11 +57,10 @@ TEST_F(SelectionTest, TheMouseChoosesTabsAndRowsAndStartsTheGame) {
         << "a campaign leaves the scenario's choice";
     play(Script().click(tab(1)).click(listRow(6)).button(id::done));
     EXPECT_EQ(std::pair(prefs.campaignChoice, prefs.scenarioChoice), std::pair(none, 6));
-}
-
-TEST_F(SelectionTest, ATabThatAnArrowChoseStaysAtTheNextClickOnARow) {
+    prefs.campaignChoice = 0;
     play(Script().key(keycode::right).click(listRow(3)).key("\r"));
-    EXPECT_EQ(std::pair(prefs.campaignChoice, prefs.scenarioChoice), std::pair(none, 3));
+    EXPECT_EQ(std::pair(prefs.campaignChoice, prefs.scenarioChoice), std::pair(none, 3))
+        << "a tab that an arrow chose stays at the next click";
 }
 
 TEST_F(SelectionTest, ANameMayBeEmptyAndIsTypedUpToSeventeenCharacters) {

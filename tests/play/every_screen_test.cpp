@@ -117,8 +117,6 @@ class EveryScreenTest : public PlayTest {
             frameChanged();
         });
     }
-    void finish() { EXPECT_EQ(run(script.closeWindow()), 0); }
-    Script script;
 };
 
 TEST_F(EveryScreenTest, APressThatIsLetGoElsewhereLeavesTheFrameAsItWas) {

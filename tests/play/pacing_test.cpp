@@ -27,7 +27,7 @@ class PacingTest : public QuickPlayTest {
         QuickPlayTest::SetUp();
         script.startScenario(0).check([] {
             giveHero(100);
-            for (int i = 0; i < columnCount * rowCount; ++i) cell(i / rowCount, i % rowCount) = enc::Cave;
+            fillBoard(enc::Cave);
         });
     }
 

@@ -9,10 +9,6 @@ namespace gloomdeck {
 
 namespace {
 
-void fill(int code) {
-    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = code;
-}
-
 // Every code twice, from the top left; two of them are eyes, one high up and one in the bottom row.
 void everyCode() {
     for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = i % enc::count;
@@ -59,7 +55,7 @@ void playPieces(StagedPlay& play) {
     holdEveryWidget(play, screen_id::play);
     scene(play, "stats row held", [] {});
     for (int item = 0; item < itemCount; ++item)
-        if (item != gold && item != suns && item != shields) holdAndLetGo(play, statsCell(item));
+        if (item != gold && item != suns && item != shields) play.press(statsCell(item)).release(nothing);
     scene(play, "nothing to use", [] { giveHero(0); });
     for (int item = 0; item < itemCount; ++item)
         if (item != gold) click(play, statsCell(item));
@@ -110,7 +106,7 @@ void playEncounters(StagedPlay& play) {
         {" below an eye", [] { cell(3, 2) = cell(4, 4) = enc::HypnoEye; }},
         {" walled in",
          [] {
-             fill(enc::Door);
+             fillBoard(enc::Door);
              count(keys) = 0;
          }},
     };
@@ -188,7 +184,7 @@ void playAutoplayer(StagedPlay& play) {
         play.click(boardCell(0, bottomRow));
     }
     scene(play, "autoplayer stopped", [=] {
-        fill(enc::Skeleton);
+        fillBoard(enc::Skeleton);
         allowAll();
     });
     play.then([](InputQueue& queue) {

@@ -18,12 +18,8 @@ static void expectOver(bool goesOn = false) {
 }
 
 TEST_F(PlayTest, ABoardIsClearedSavedAndFoundAgain) {
-    Script script;
-    script.screen("Gloomdeck 1.2").check([] { EXPECT_EQ(pixelAt(407, 487), 0xFFFF00FF) << "the title"; });
-    script.passTitle().screen("Select a game").key(keycode::right);
-    script.type("\b\b\b\b\b\b\b\bMo")
-        .button(id::done)
-        .newest("Click on the bottom row of the map grid above.");
+    script.screen("Gloomdeck 1.2").passTitle().screen("Select a game").key(keycode::right);
+    script.type("\b\b\b\b\b\b\b\bMo").button(id::done);
     const auto won = [] { expectOver(); };
     script.clearBoard().check(won).key(keycode::space).check(won);
     script.button(id::exit).key("n").screen("Gloomdeck 1.2").button(id::exit).key("y");

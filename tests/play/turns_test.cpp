@@ -15,19 +15,16 @@ class TurnsTest : public PlayTest {
         script.startScenario(5).check([] {
             useRandomSource([] { return 0.0; });  // every roll shows 1
             makeEmptyBoard();
-            for (int i = 0; i < columnCount * rowCount; ++i)
-                cell(i % columnCount, i / columnCount) = enc::Darkness;
+            fillBoard(enc::Darkness);
             giveHero(9);
             game.turns = 1;
             openPlayScreen();
         });
     }
-    void finish() { EXPECT_EQ(run(script.closeWindow()), 0); }
     Script& bar(const std::array<std::string, 4>& lines) {
         return script.check([=] { EXPECT_EQ(messageBar.lines, lines); });
     }
     Script& meet(int col) { return script.click(boardCell(col, bottomRow)); }
-    Script script;
 };
 
 TEST_F(TurnsTest, AMarkedMessageStandsForItsPassAndScrollsAtTheNextTurn) {

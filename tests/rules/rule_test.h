@@ -28,10 +28,6 @@ class RuleTest : public GameTest {
 
     static bool advanced(int col = 3) { return column(col).drawn == 1 && board(col, 0) == enc::Door; }
 
-    static void fillBoard(enc::Code code) {
-        for (int i = 0; i < columnCount * rowCount; ++i) board(i % columnCount, i / columnCount) = code;
-    }
-
     static int countOf(enc::Code code) {
         int found = 0;
         for (int i = 0; i < columnCount * rowCount; ++i)
