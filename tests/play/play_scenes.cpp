@@ -124,7 +124,7 @@ void playEncounters(StagedPlay& play) {
 
 void playSpells(StagedPlay& play) {
     for (const int item : {suns, shields})
-        for (const int percent : {0, 50, 95})
+        for (const int percent : {-100, 0, 50, 95})
             for (const int sight : {0, 2}) {
                 scene(play,
                       "item " + std::to_string(item) + " at " + std::to_string(percent) +

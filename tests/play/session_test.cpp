@@ -68,12 +68,14 @@ TEST_F(QuickPlayTest, EveryCampaignGoesFromItsFirstStoryToItsBanner) {
     }
 }
 
-TEST_F(QuickPlayTest, AClearedStageWaitsForItsContinueInTheNextRun) {
+TEST_F(QuickPlayTest, AClearedStageWaitsForItsContinueInTheNextRunAndIsNotLeftUnasked) {
     script.passTitle().button(id::done).click({100, 100}).hurry().clearBoard();
     finish();
     const auto waits = [] { expectOver(true); };
-    script = Script().passTitle().check(waits).key("P").key("q").check(waits).button(id::continueGame);
-    script.click({0, 0}).hurry().clearBoard();
+    script = Script().passTitle().check(waits).key("P").key("q").check(waits);
+    for (const char* asking : {"R", "N"}) script.key(asking).key("n").check(waits);
+    for (const int asking : {id::replay, id::newGame}) script.button(asking).key("n").check(waits);
+    script.button(id::continueGame).click({0, 0}).hurry().clearBoard();
     EXPECT_EQ(restart(script.closeWindow()), 0);
     EXPECT_TRUE(game.campaignWon);
 }

@@ -1,8 +1,15 @@
-// The message bar's lines, the game speed, and waiting for the player.
+// The message bar's lines, the game speed, waiting for the player, wrapped text, and cutting picture strips.
+#include <filesystem>
+
 #include "platform/clock.h"
+#include "platform/draw.h"
+#include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "shell/pacing.h"
+#include "shell/palette.h"
+#include "shell/panels.h"
+#include "shell/tile_set.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -16,6 +23,17 @@ class MessagesTest : public GameTest {
         waitForAck(key);
         finishScript();
         return timer() - before;
+    }
+
+    // The text is drawn in just those lines.
+    static void expectLines(const std::string& text, int width, const std::vector<std::string>& lines) {
+        clearScreen();
+        drawWrappedText(text, 0, 0, width, glyphSize);
+        for (std::size_t i = 0; i <= lines.size(); ++i) {
+            std::string line = i < lines.size() ? lines[i] : "";
+            line.resize(frameWidth / glyphSize, ' ');
+            EXPECT_TRUE(textStandsAt(0, glyphSize * static_cast<int>(i), line, colour::text)) << line;
+        }
     }
 };
 
@@ -65,6 +83,28 @@ TEST_F(MessagesTest, ACloseRequestDuringAWaitIsRememberedAndTheSystemsEndStopsIt
     EXPECT_EQ(readKey(), "");
     waited("k", Script().press({300, 300}).then([](InputQueue& queue) { endRequested(queue); }));
     EXPECT_EQ(readKey(), keycode::close);
+}
+
+TEST_F(MessagesTest, WrappedTextBreaksBetweenWordsAndAtBackslashesAndBulletItemsIndentUntilThen) {
+    expectLines("one two three", 7, {"one two", "three"});
+    expectLines("a\\b\\\\c", 9, {"a", "b", "", "c"});
+    expectLines("  lead and trail  ", 8, {"lead", "and", "trail"});
+    expectLines("", 5, {});
+    expectLines("unbreakable", 4, {"unbr", "eaka", "ble"});
+    expectLines("* one two three four\\five six", 9, {"* one two", "  three", "  four", "five six"});
+    expectLines("*item\\* other item here", 12, {"*item", "* other item", "  here"});
+}
+
+TEST_F(MessagesTest, AMissingStripLeavesItsTilesTransparentAndTheLastTileIsBeyondTheStrip) {
+    const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
+    std::filesystem::remove(folder + "/gfx/dtiles2.bmp");
+    loadTiles();
+    const Image nothing = createImage(tile::size, tile::size);
+    for (const int number : {1, 49, 99, 147})
+        EXPECT_EQ(tileImage(number).pixels[16 * 33], flatColour(number));
+    for (const int number : {50, 98, 148}) EXPECT_EQ(tileImage(number).pixels, nothing.pixels);
+    EXPECT_TRUE(tileImage(149).pixels.empty());
 }
 
 }  // namespace gloomdeck

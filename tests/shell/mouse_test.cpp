@@ -2,6 +2,7 @@
 #include "shell/mouse.h"
 
 #include "platform/input.h"
+#include "shell/hit_test.h"
 #include "shell/layout.h"
 #include "tests/support/script.h"
 
@@ -26,6 +27,22 @@ class MouseTest : public GameTest {
         return handleMouse();
     }
 };
+
+TEST_F(MouseTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
+    Button& grid = widget(id::board);
+    EXPECT_EQ(hitTest(grid, 8 + 32 * 2 + 31, 40 + 32 * 3 + 31, Phase::press), 1);
+    for (const Point out : {Point{7, 40}, Point{8, 39}, Point{232, 100}, Point{100, 264}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::press), 0);
+    EXPECT_TRUE(grid.pressCol == 2 && grid.pressRow == 3);
+    for (const Point in : {Point{72, 136}, Point{103, 167}})
+        EXPECT_EQ(hitTest(grid, in.x, in.y, Phase::release), 1);
+    for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
+    Button& exit = widget(id::exit);
+    exit.hidden = true;
+    for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
+        EXPECT_EQ(hitTest(exit, exit.x, exit.y, phase), 0);
+}
 
 TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnIt) {
     EXPECT_EQ(drag(widgetCentre(id::help), widgetCentre(id::help)), 1);
