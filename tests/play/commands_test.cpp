@@ -82,35 +82,17 @@ TEST_F(CommandTest, AKeyOfAClicksPassIsForgottenUnlessItEndsTheLoop) {
     EXPECT_EQ(game.turns, 2);
 }
 
-TEST_F(CommandTest, AModeIsCancelledThreeWaysAndByAnotherScreen) {
+TEST_F(CommandTest, AModeIsLeftByItsOwnRowAndByAnotherScreenAndStaysWhereItMayNotStrike) {
     for (const auto& [item, mode] :
          {std::pair{lightningBolts, target::lightning}, {bombs, target::bomb}, {hands, target::hand}}) {
-        const Point row = statsCell(item);
-        script.click(row);
-        expect(0, mode).key("\x1B");
-        for (const Point elsewhere : {statsCell(suns), row}) {
-            expect(0).click(row);
-            expect(0, mode).click(elsewhere);
-        }
-        expect(0).click(row).key("H").key("q");
+        script.click(statsCell(item));
+        expect(0, mode).click(statsCell(item));
+        expect(0).click(statsCell(item)).key("H").key("q");
         expect(0);
     }
     script.check([] { EXPECT_EQ(TotalStats(), 50 * itemCount); });
     script.check([] { column(5).finished = 1; }).click(statsCell(lightningBolts)).click(boardCell(5, 1));
     expect(0, target::lightning);
-    finish();
-}
-
-TEST_F(CommandTest, AModeIsUsedOnce) {
-    int turns = 0;
-    for (const int item : {lightningBolts, bombs, hands}) {
-        script.check([] { board(3, 3) = enc::Gold; }).click(statsCell(item)).click(boardCell(3, 3));
-        expect(++turns).check([=] { EXPECT_EQ(std::exchange(count(item), 0), 49); });
-        script.click(boardCell(3, 3)).click(statsCell(item));
-        expect(turns).check([] { EXPECT_TRUE(newestMessage().ends_with(" to use.")); });
-    }
-    script.click(statsCell(suns)).click(statsCell(shields));
-    expect(turns + 2).check([] { EXPECT_EQ(count(suns) + count(shields), 98); });
     finish();
 }
 

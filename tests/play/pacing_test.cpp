@@ -58,18 +58,6 @@ TEST_F(PacingTest, KeysTypedDuringAnActionActAfterItOneAPass) {
     finish();
 }
 
-TEST_F(PacingTest, AKeyCutsLongPausesShort) {
-    script.check(makeEmptyBoard);
-    std::array<long, 3> slept{};
-    for (std::size_t i = 0; i < 3; ++i)
-        script.check([&, i] { slept[i] = script::sleptMilliseconds(); })
-            .then(inPause(3, typing(i == 1 ? "z" : "")))
-            .click(statsCell(suns));
-    finish();
-    EXPECT_GE(slept[1] - slept[0], 1000);
-    EXPECT_LT(slept[2] - slept[1], 600);
-}
-
 TEST_F(PacingTest, TheAutoplayerStartsWhenThePreferencesAreLeftAndPlaysTheBoard) {
     script.hurry().check([] { prefs.GameSpeed = speedCount - 1; });
     startAutoplayer(script, typing("zP")).screen("Gloomdeck 1.2");

@@ -104,11 +104,7 @@ void playEncounters(StagedPlay& play) {
         {" under deflection", [] { turnsLeft(deflection) = 3; }},
         {" under sight", [] { turnsLeft(magicSight) = 1; }},
         {" below an eye", [] { cell(3, 2) = cell(4, 4) = enc::HypnoEye; }},
-        {" walled in",
-         [] {
-             fillBoard(enc::Door);
-             count(keys) = 0;
-         }},
+        {" walled in", [] { fillBoard(enc::Door); }},
     };
     for (const auto& [where, prepare] : settings)
         for (int code = 0; code < enc::count; ++code) {
@@ -126,15 +122,13 @@ void playSpells(StagedPlay& play) {
     for (const int item : {suns, shields})
         for (const int percent : {-100, 0, 50, 95})
             for (const int sight : {0, 2}) {
-                scene(play,
-                      "item " + std::to_string(item) + " at " + std::to_string(percent) +
-                          (sight ? " seeing" : ""),
-                      [=] {
-                          everyCode();
-                          boost(percent);
-                          endings();
-                          turnsLeft(magicSight) = sight;
-                      });
+                const std::string name = "item " + std::to_string(item) + " at " + std::to_string(percent);
+                scene(play, name + (sight ? " seeing" : ""), [=] {
+                    everyCode();
+                    boost(percent);
+                    endings();
+                    turnsLeft(magicSight) = sight;
+                });
                 click(play, statsCell(item));
             }
     for (int col = 0; col < columnCount; ++col)

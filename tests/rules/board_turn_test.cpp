@@ -1,15 +1,36 @@
-// The upkeep of a turn, and the end of a board with its score.
+// Changes of the hero, the upkeep of a turn, and the end of a board with its score.
 #include "rules/board_turn.h"
 
 #include <limits>
 
 #include "platform/frame.h"
 #include "prefs/score.h"
+#include "rules/hero.h"
+#include "shell/palette.h"
+#include "shell/places.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
 
 using BoardTurnTest = RuleTest;
+
+TEST_F(BoardTurnTest, AnItemIsMarkedByItsNetChangeOfTheTurn) {
+    const auto box = [] { return pixelAt(statsGrid.x + 34, statsGrid.corner(0, gold).y); };
+    AddItem(gold, 3);
+    AddItem(gold, -3);
+    EXPECT_EQ(box(), colour::yellow);
+    AddItem(gold, -1);
+    EXPECT_EQ(box(), colour::loss);
+    itemType(gold).highlightTurns = 1;
+    AddItem(gold, 0);
+    EXPECT_EQ(itemType(gold).highlightTurns, 1) << "no change marks nothing anew";
+}
+
+TEST_F(BoardTurnTest, ATickTakesATurnOffActivePowersOnly) {
+    game.powers = {1, 3, -2, 7};
+    PowersTick();
+    EXPECT_EQ(game.powers, (Powers{0, 2, -2, 7}));
+}
 
 TEST_F(BoardTurnTest, ToughnessHealsBelowATenthOfItself) {
     constexpr int unrolled = 0;
