@@ -7,10 +7,7 @@ namespace gloomdeck {
 /// A place where no screen has anything.
 inline constexpr Point nothing{404, 300};
 
-/// Presses there and lets go where nothing is; what was pressed comes back as it was.
-void holdAndLetGo(StagedPlay& play, Point at);
-
-/// The same on every widget that the screen tests.
+/// Presses every widget that the screen tests and lets go where nothing is.
 void holdEveryWidget(StagedPlay& play, int screenId);
 
 /// Begins a step on the play screen: a hero with twenty of everything, an empty board of seven terrains in

@@ -6,8 +6,6 @@
 
 namespace gloomdeck {
 
-void holdAndLetGo(StagedPlay& play, Point at) { play.press(at).release(nothing); }
-
 void holdEveryWidget(StagedPlay& play, int screenId) {
     for (const int widgetId : pressOrder(screenId)) {
         if (widgetId == id::stats) continue;  // counts wherever it is let go

@@ -103,12 +103,13 @@ void resetProgram() {
     missing = 0;
 }
 
+void fillBoard(int code) {
+    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = code;
+}
+
 void makeEmptyBoard() {
-    for (int col = 0; col < columnCount; ++col) {
-        column(col) = {};
-        column(col).location = dungeon;
-        for (int row = 0; row < rowCount; ++row) cell(col, row) = enc::Empty;
-    }
+    for (int col = 0; col < columnCount; ++col) column(col) = {dungeon, 0, {}, 0, 0};
+    fillBoard(enc::Empty);
     game.campaign = none;
 }
 
