@@ -5,6 +5,7 @@ import contextlib
 import ctypes
 import os
 import pathlib
+import select
 import signal
 import statistics
 import struct
@@ -53,19 +54,30 @@ class Watcher:
         self.x11.XOpenDisplay.restype = ctypes.c_void_p
         self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
         self.connection = ctypes.c_void_p(self.x11.XOpenDisplay(name.encode()))
+        driver.check(self.connection, f"no connection to the display {name}")
+        self.socket = self.x11.XConnectionNumber(self.connection)
         root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.connection))
         self.x11.XSelectInput(self.connection, root, ctypes.c_long(SUBSTRUCTURE))
         self.x11.XSync(self.connection, 0)
 
+    def await_window(self, process):
+        event = (ctypes.c_long * 24)()
+        end = time.monotonic() + driver.LIMIT
+        while ctypes.cast(event, ctypes.POINTER(ctypes.c_int))[0] != MAPPED:
+            if self.x11.XPending(self.connection):
+                self.x11.XNextEvent(self.connection, event)
+            elif not select.select([self.socket], [], [], 0.1)[0]:
+                program = pathlib.Path(process.args[0]).name
+                driver.check(process.poll() is None, f"{program} ended before its window was to be seen")
+                driver.check(time.monotonic() < end, f"{driver.LIMIT} seconds went by without a window of {program}")
+
     def start(self, program):
         """Seconds of a processor, and on the clock, until the program's window is mapped."""
-        event = (ctypes.c_long * 24)()
         environment = {**os.environ, "DISPLAY": self.name}
         begun = time.monotonic()
         process = subprocess.Popen([program], env=environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
-            while ctypes.cast(event, ctypes.POINTER(ctypes.c_int))[0] != MAPPED:
-                self.x11.XNextEvent(self.connection, event)
+            self.await_window(process)
             process.send_signal(signal.SIGSTOP)
             return busy(process.pid), time.monotonic() - begun
         finally:
@@ -89,11 +101,14 @@ def median(pairs, which):
 
 
 def memory(server):
-    environment = {**os.environ, "DISPLAY": server.display}
-    with driver.started([MINIMAL], env=environment) as process, \
-            driver.playing(server.display, DARK, 4) as game:
-        game.until_at_rest("play")
-        return {"memory": resident(game.process.pid), "memory minimal": resident(process.pid)}
+    """Both windows open in the middle of their display, so that on a common one either may hide the other."""
+    with driver.x_server() as other:
+        watcher = Watcher(other.display)
+        with driver.started([MINIMAL], env={**os.environ, "DISPLAY": other.display}) as process, \
+                driver.playing(server.display, DARK, 4) as game:
+            watcher.await_window(process)
+            game.until_at_rest("play")
+            return {"memory": resident(game.process.pid), "memory minimal": resident(process.pid)}
 
 
 def to_selection(game):

@@ -34,11 +34,11 @@ inline constexpr std::array<HelpLine, 13> keyboardHelp{{{28, "T: Trading screen"
                                                         {196, "Arrow keys: menus on sub-"},
                                                         {208, " screens (help, new game)"}}};
 
+// The spelling is its own.
 inline constexpr std::string_view autoplayerHelp =
-    "The autoplayer is a feature which can be used to assist in playing the game. Select what level you want "
-    "it "
-    "to play at, from the prefs screen.\\\\\"Good\" means that it will take items that have are beneficial "
-    "if "
-    "there is nothing that moves around or does stuff on the board.";
+    "The autoplayer is a feature which can be used to assist in playing the game. "
+    "Select what level you want it to play at, from the prefs screen.\\\\"
+    "\"Good\" means that it will take items that have are beneificial "
+    "if there is nothing that moves around or does stuff on the board.";
 
 }  // namespace gloomdeck

@@ -49,6 +49,9 @@ std::string programFolder();
 /// call comes between two calls of this seam or out of a wait in it, and must not wait itself.
 void onLost(void (*save)());
 
+/// Tells one line to whoever started the program: on standard error, or on the browser's console.
+void tell(const std::string& line);
+
 /// Closes the window and ends the program.
 [[noreturn]] void end(int exitCode);
 

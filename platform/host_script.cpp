@@ -22,6 +22,7 @@ struct ScriptHost {
     std::string folder = ".";
     std::string title;
     std::vector<Colour> shown;
+    std::vector<std::string> told;
     script::Feeder idle;
     script::Feeder pausing;
     script::Feeder polling;
@@ -48,6 +49,7 @@ long presentCount() { return state.presents; }
 
 Rows takePresentedRows() { return std::exchange(state.presented, Rows{}); }
 const std::string& windowTitle() { return state.title; }
+const std::vector<std::string>& toldLines() { return state.told; }
 long sleptMilliseconds() { return state.slept; }
 void loseWindow() {
     if (state.save) state.save();
@@ -103,6 +105,8 @@ double seconds() { return state.clock; }
 std::string programFolder() { return state.folder; }
 
 void onLost(void (*save)()) { state.save = save; }
+
+void tell(const std::string& line) { state.told.push_back(line); }
 
 void end(int exitCode) { throw script::ProgramEnded{exitCode}; }
 

@@ -51,6 +51,9 @@ const std::string& windowTitle();
 /// The rows that the presents since the last call have named as changed, from the first to the last.
 Rows takePresentedRows();
 
+/// What a desktop would have on standard error.
+const std::vector<std::string>& toldLines();
+
 /// Milliseconds that animations have paused.
 long sleptMilliseconds();
 

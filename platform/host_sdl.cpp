@@ -92,7 +92,7 @@ void open(int width, int height) {
     programFolder();  // made before the handler below, it is still there when that saves
     std::atexit(noteProcessExit);
     if (openDesktopWindow({width, height}, lastTitle)) return;
-    std::fputs("gloomdeck: there is no display to open a window on; start it on a desktop\n", stderr);
+    tell("there is no display to open a window on; start it on a desktop");
     end(EXIT_FAILURE);
 }
 
@@ -139,6 +139,8 @@ std::string programFolder() {
 }
 
 void onLost(void (*save)()) { saveWhenLost = save; }
+
+void tell(const std::string& line) { std::fprintf(stderr, "gloomdeck: %s\n", line.c_str()); }
 
 void end(int exitCode) {
     ending = Ending::closing;

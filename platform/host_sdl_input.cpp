@@ -18,7 +18,8 @@ struct KeyMarks {
 
 KeyMarks lastKey;
 bool pointerOverWindow = false;
-Point pointerPlace;  // in the window, as events count
+Point pointerPlace;          // in the window, as events count
+bool placeMayBeOld = false;  // a window that moves under a resting pointer sends no motion
 bool buttonDown = false;
 bool pressIsHidden = false;  // after a lost release the window library keeps the next press to itself
 bool repaintDue = false;
@@ -62,10 +63,16 @@ void reportPointer(InputQueue& queue) {
         pointerLeft(queue);
 }
 
-void movePointer(InputQueue& queue, int x, int y) {
+void movePointer(InputQueue& queue, Point place) {
     pointerOverWindow = true;
-    pointerPlace = {x, y};
+    pointerPlace = place;
     reportPointer(queue);
+}
+
+// A motion that waits comes after the event at hand, whose place is then the remembered one.
+Point placeNow() {
+    const auto place = askPointerPlace();
+    return place && !SDL_HasEvent(SDL_MOUSEMOTION) ? *place : pointerPlace;
 }
 
 void changeButton(InputQueue& queue, bool down) {
@@ -75,7 +82,8 @@ void changeButton(InputQueue& queue, bool down) {
 
 // A release that the window never saw shows in the next motion.
 void noteMotion(InputQueue& queue, const SDL_MouseMotionEvent& event) {
-    movePointer(queue, event.x, event.y);
+    placeMayBeOld = false;
+    movePointer(queue, {event.x, event.y});
     if ((event.state & SDL_BUTTON_LMASK) == 0) changeButton(queue, false);
 }
 
@@ -86,12 +94,26 @@ void notePointerBack(InputQueue& queue) {
     pressIsHidden = true;
 }
 
+// A finger does not bring the pointer along.
+Point placeOf(const SDL_MouseButtonEvent& event) {
+    if (event.which == SDL_TOUCH_MOUSEID) return {event.x, event.y};
+    const bool presses = pressIsHidden || event.state == SDL_PRESSED;
+    return presses && placeMayBeOld ? placeNow() : pointerPlace;
+}
+
 void noteButton(InputQueue& queue, const SDL_MouseButtonEvent& event) {
     if (event.button != SDL_BUTTON_LEFT) return;
-    movePointer(queue, event.x, event.y);
+    movePointer(queue, placeOf(event));
+    placeMayBeOld = true;
     if (pressIsHidden && event.state == SDL_RELEASED) changeButton(queue, true);
     pressIsHidden = false;
     changeButton(queue, event.state == SDL_PRESSED);
+}
+
+void noteMovedWindow(InputQueue& queue) {
+    placeMayBeOld = true;
+    if (pointerOverWindow) pointerPlace = placeNow();
+    reportPointer(queue);
 }
 
 void noteWindow(InputQueue& queue, const SDL_WindowEvent& event) {
@@ -99,8 +121,9 @@ void noteWindow(InputQueue& queue, const SDL_WindowEvent& event) {
         case SDL_WINDOWEVENT_CLOSE: return closeRequested(queue);
         case SDL_WINDOWEVENT_ENTER: return notePointerBack(queue);
         case SDL_WINDOWEVENT_LEAVE: pointerOverWindow = false; return reportPointer(queue);
+        case SDL_WINDOWEVENT_MOVED: return noteMovedWindow(queue);
         case SDL_WINDOWEVENT_SIZE_CHANGED:
-            reportPointer(queue);
+            noteMovedWindow(queue);
             repaintDue = true;
             return;
         case SDL_WINDOWEVENT_SHOWN:

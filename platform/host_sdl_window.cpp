@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <string_view>
 #include <vector>
 
 #include "window_icon.h"
@@ -17,6 +18,7 @@ constexpr double commonPeriod = 1.0 / 60.0;
 constexpr int slowestRate = 10;  // pictures a second; a display that claims less does not know
 constexpr int rowsAtOnce = 8;    // few enough for the nearest memory
 constexpr int bytesPerPixel = sizeof(Colour);
+constexpr std::string_view placeTellingDriver = "x11";  // others answer with the place of the last event
 
 SDL_Window* window = nullptr;
 SDL_Renderer* renderer = nullptr;  // only where the window has no surface that we can write to
@@ -217,6 +219,17 @@ std::optional<Point> framePixelUnder(Point place) {
     if (points.width < 1 || points.height < 1) return std::nullopt;
     const Point pixel{place.x * area.width / points.width, place.y * area.height / points.height};
     return framePixelAt(frameSize, fitFrame(frameSize, area), pixel.x, pixel.y);
+}
+
+std::optional<Point> askPointerPlace() {
+    const char* driver = SDL_GetCurrentVideoDriver();
+    if (!driver || std::string_view(driver) != placeTellingDriver) return std::nullopt;
+    Point pointer;
+    Point corner;
+    SDL_GetGlobalMouseState(&pointer.x, &pointer.y);
+    SDL_PumpEvents();
+    SDL_GetWindowPosition(window, &corner.x, &corner.y);
+    return Point{pointer.x - corner.x, pointer.y - corner.y};
 }
 
 double displayPeriod() {

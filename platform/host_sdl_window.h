@@ -25,6 +25,10 @@ void repaintWindow();
 /// The frame's pixel under a place in the window, as pointer events give it; none beside the picture.
 std::optional<Point> framePixelUnder(Point place);
 
+/// The pointer's place in the window by its place on the screen; none where the desktop does not tell that.
+/// What has happened until then is among the events that wait.
+std::optional<Point> askPointerPlace();
+
 /// Seconds between two pictures of the display that the window is on; asked again after noteDisplayChange.
 double displayPeriod();
 void noteDisplayChange();

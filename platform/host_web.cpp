@@ -20,6 +20,7 @@ void gloomdeckAwaitInput(double milliseconds);
 void gloomdeckBreathe();
 void gloomdeckRest();
 void gloomdeckKeepFiles();
+void gloomdeckTell(const char* line);
 void gloomdeckEnded();
 void gloomdeckLeave();
 }
@@ -136,6 +137,8 @@ double seconds() { return gloomdeckSeconds(); }
 std::string programFolder() { return "/gloomdeck"; }
 
 void onLost(void (*save)()) { saveWhenLost = save; }
+
+void tell(const std::string& line) { gloomdeckTell(line.c_str()); }
 
 void end(int /*exitCode*/) {
     gloomdeckKeepFiles();

@@ -278,6 +278,10 @@ mergeInto(LibraryManager.library, {
     document.title = UTF8ToString(title);
   },
 
+  gloomdeckTell: function(line) {
+    console.error(UTF8ToString(line));
+  },
+
   gloomdeckPaint__deps: ['$gloomdeck'],
   gloomdeckPaint: function(pixels, width, firstRow, rows) {
     var bytes = new Uint8ClampedArray(HEAPU8.buffer, pixels, 4 * width * rows);

@@ -2,6 +2,7 @@
 
 web_packages=(emscripten python3)
 web_test_packages=(chromium)
+longest_test=1800  # seconds; it takes far less
 web_toolchain=/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake
 
 # page_version: short, and another one as soon as anything that the page loads is another.
@@ -39,8 +40,16 @@ need_driver() {
         die "playwright-core could not be installed (see above); with a network run: cd tests/web && npm ci"
 }
 
-# test_page PATTERN: plays the page in a browser, and counts.
+# test_page PATTERN: plays the page in a browser, and counts the lines that say what passed and what failed.
 test_page() {
-    run_script "$top/tests/web/drive.mjs" "$top/build/web" "$top/dist/web" "$1"
-    print_counts
+    local log="$top/build/web/tests-web.log" code=0 failed
+    timeout --kill-after=10 "$longest_test" "$top/tests/web/drive.mjs" "$top/build/web" "$top/dist/web" "$1" \
+        </dev/null >"$log" 2>&1 || code=$?
+    grep -v '^PASS ' "$log" || true
+    failed="$(grep -c '^FAIL ' "$log" || true)"
+    if [ "$code" != 0 ] && [ "$failed" = 0 ]; then
+        printf 'FAIL web: tests/web/drive.mjs ended with code %d\n' "$code"
+        failed=1
+    fi
+    print_counts "$(grep -c '^PASS ' "$log" || true)" "$failed" 0
 }

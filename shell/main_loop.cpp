@@ -10,7 +10,6 @@
 #include "platform/bitmap.h"
 #include "platform/clock.h"
 #include "platform/draw.h"
-#include "platform/files.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/random.h"
@@ -38,8 +37,7 @@ namespace {
 constexpr int passPause = 10;  // milliseconds
 
 void showTitle() {
-    const std::string title = pictureFolder() + "dtitle.bmp";
-    if (fileExists(title)) loadBitmap(title, screen());
+    loadBitmap(pictureFolder() + "dtitle.bmp", screen());
     waitForAck("");
 }
 

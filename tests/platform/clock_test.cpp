@@ -5,6 +5,7 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/rounding.h"
+#include "shell/widgets/screen_lock.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
@@ -61,15 +62,18 @@ TEST_F(ClockTest, PollingKeepsItsStepForAQuarterSecondAfterInputAndThenWaits) {
     EXPECT_EQ(slept([] { pausePolling(10); }), 10) << "a waiting key keeps the loop awake";
 }
 
-TEST_F(ClockTest, TheFrameIsShownOnceItChangedAndNotWhileItIsLocked) {
+TEST_F(ClockTest, TheFrameIsShownOnceItChangedAndNotBeforeTheOutermostOfItsLocksIsReleased) {
     sleep(1);
-    lockScreen();
-    mark(2);
+    holdScreen();
+    {
+        const HeldScreen inner;
+        mark(2);
+    }
     for (const int pause : {0, 20, 200}) sleep(pause);
     getMouse();
     pausePolling(10, timer() + 1.0);
     EXPECT_FALSE(isShown(2));
-    unlockScreen();
+    releaseScreen();
     EXPECT_TRUE(isShown(2));
     const long shown = script::presentCount();
     for (const int pause : {0, 20, 200}) sleep(pause);

@@ -46,6 +46,7 @@ TEST_F(EndingTest, ASignalAtAnyPollEndsWithAWholeMoveSaved) {
         return true;
     });
     EXPECT_EQ(run(script.closeWindow()), 0);
+    ASSERT_GT(polls[0].size(), 0U);
     ASSERT_GT(polls[1].size(), 100U);
     std::mt19937 random(1);
     for (std::size_t i = 0; i < 24; ++i) {
@@ -86,7 +87,7 @@ TEST_F(EndingTest, AWindowLostOnAStoryPageLeavesNoHalfStartedGame) {
     script.passTitle().key(keycode::enter).check([&] {
         script::loseWindow();
         EXPECT_EQ(dataFile("DGDP.dat"), std::string(sizeof game, '\0'));
-        EXPECT_EQ(dataFile("DGDG.dat")[4], screen_id::selection);
+        EXPECT_EQ(dataFile("DGDG.dat").at(4), screen_id::selection);
     });
     EXPECT_EQ(run(script.key(keycode::space).closeWindow()), 0);
 }

@@ -2,16 +2,13 @@
 #include "content/game_flow.h"
 #include "content/locations.h"
 #include "content/scenarios.h"
+#include "prefs/switches.h"
 #include "shell/widgets/layout.h"
 #include "tests/play/scenes.h"
 
 namespace gloomdeck {
 
 namespace {
-
-void fill(int code) {
-    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = code;
-}
 
 // Every code twice, from the top left; two of them are eyes, one high up and one in the bottom row.
 void everyCode() {
@@ -49,7 +46,7 @@ void playPieces(StagedPlay& play) {
     });
     for (int i = 0; i < columnCount * rowCount; ++i) play.move(boardCell(i % columnCount, i / columnCount));
     for (int item = 0; item < itemCount; ++item) play.move(statsCell(item));
-    play.move(boardCell(3, 3)).move(nothing).move(statsCell(gold)).leave();
+    play.move(boardCell(3, 3)).move({130, 160}).move(nothing).move(statsCell(gold)).leave();
     for (const int item : {lightningBolts, bombs, hands}) {
         scene(play, "aimed with item " + std::to_string(item), everyCode);
         click(play, statsCell(item));
@@ -60,7 +57,7 @@ void playPieces(StagedPlay& play) {
     holdAll(play, playWidgets);
     scene(play, "stats row held", [] {});
     for (int item = 0; item < itemCount; ++item)
-        if (item != gold && item != suns && item != shields) holdAndLetGo(play, statsCell(item));
+        if (item != gold && item != suns && item != shields) play.press(statsCell(item)).release(nothing);
     scene(play, "nothing to use", [] { giveHero(0); });
     for (int item = 0; item < itemCount; ++item)
         if (item != gold) click(play, statsCell(item));
@@ -109,11 +106,7 @@ void playEncounters(StagedPlay& play) {
         {" under deflection", [] { turnsLeft(deflection) = 3; }},
         {" under sight", [] { turnsLeft(magicSight) = 1; }},
         {" below an eye", [] { cell(3, 2) = cell(4, 4) = enc::HypnoEye; }},
-        {" walled in",
-         [] {
-             fill(enc::Door);
-             count(keys) = 0;
-         }},
+        {" walled in", [] { fillBoard(enc::Door); }},
     };
     for (const auto& [where, prepare] : settings)
         for (int code = 0; code < encounterCount; ++code) {
@@ -129,17 +122,15 @@ void playEncounters(StagedPlay& play) {
 
 void playSpells(StagedPlay& play) {
     for (const int item : {suns, shields})
-        for (const int percent : {0, 50, 95})
+        for (const int percent : {-100, 0, 50, 95})
             for (const int sight : {0, 2}) {
-                scene(play,
-                      "item " + std::to_string(item) + " at " + std::to_string(percent) +
-                          (sight ? " seeing" : ""),
-                      [=] {
-                          everyCode();
-                          boost(percent);
-                          endings();
-                          turnsLeft(magicSight) = sight;
-                      });
+                const std::string name = "item " + std::to_string(item) + " at " + std::to_string(percent);
+                scene(play, name + (sight ? " seeing" : ""), [=] {
+                    everyCode();
+                    boost(percent);
+                    endings();
+                    turnsLeft(magicSight) = sight;
+                });
                 click(play, statsCell(item));
             }
     for (int col = 0; col < columnCount; ++col)
@@ -190,7 +181,7 @@ void playAutoplayer(StagedPlay& play) {
         play.click(boardCell(0, bottomRow));
     }
     scene(play, "autoplayer stopped", [=] {
-        fill(enc::Skeleton);
+        fillBoard(enc::Skeleton);
         allowAll();
     });
     play.then([](InputQueue& queue) {

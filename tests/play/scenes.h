@@ -8,10 +8,7 @@ namespace gloomdeck {
 /// A place where no screen has anything.
 inline constexpr Point nothing{404, 300};
 
-/// Presses there and lets go where nothing is; what was pressed comes back as it was.
-void holdAndLetGo(StagedPlay& play, Point at);
-
-/// The same on each of those widgets.
+/// Presses each of those widgets and lets go where nothing is.
 void holdAll(StagedPlay& play, const std::vector<int>& widgets);
 
 /// Those of the play screen but for the stats column, which counts wherever it is let go.

@@ -66,13 +66,15 @@ void playHelp(StagedPlay& play) {
     for (int page = 0; page < helpPageCount; ++page) {
         play.step("help page " + std::string(helpPageLabels[static_cast<std::size_t>(page)]));
         play.click({40, 28 + 16 * page}).move(nothing);
-        for (int entry = 1; entry < helpEntryCount(page); ++entry) play.key(keycode::right);
+        for (int entry = 0; entry <= helpEntryCount(page); ++entry) play.key(keycode::right);
         play.button(id::next).button(id::prev);
         play.step("help page " + std::to_string(page) + ", all held");
         holdAll(play, {id::helpMenu, id::next, id::prev, id::done});
     }
     play.step("help, pages by keys").key(keycode::up).key(keycode::down).key(keycode::down).key(keycode::up);
-    play.button(id::done);
+    play.step("help, entries kept until it is left");
+    for (int page = 0; page < 3; ++page) play.key(keycode::down);
+    play.button(id::done).key("H").button(id::done);
 }
 
 void playQuestions(StagedPlay& play) {

@@ -7,8 +7,6 @@
 
 namespace gloomdeck {
 
-void holdAndLetGo(StagedPlay& play, Point at) { play.press(at).release(nothing); }
-
 void holdAll(StagedPlay& play, const std::vector<int>& widgets) {
     for (const int widgetId : widgets) {
         play.then([=](InputQueue& queue) { pointAt(queue, widgetCentre(widgetId), {true}); });

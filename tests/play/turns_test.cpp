@@ -1,8 +1,7 @@
 // Turns as the main loop takes them: the message bar, the autoplayer, questions, and what a screen forgets.
 #include "content/game_flow.h"
-#include "platform/frame.h"
 #include "platform/random.h"
-#include "rules/tiles.h"
+#include "prefs/switches.h"
 #include "shell/play/play_view.h"
 #include "shell/widgets/layout.h"
 #include "tests/support/script.h"
@@ -16,19 +15,16 @@ class TurnsTest : public PlayTest {
         script.startScenario(5).check([] {
             useRandomSource([] { return 0.0; });  // every roll shows 1
             makeEmptyBoard();
-            for (int i = 0; i < columnCount * rowCount; ++i)
-                cell(i % columnCount, i / columnCount) = enc::Darkness;
+            fillBoard(enc::Darkness);
             giveHero(9);
             game.turns = 1;
             openPlayScreen();
         });
     }
-    void finish() { EXPECT_EQ(run(script.closeWindow()), 0); }
     Script& bar(const std::array<std::string, 4>& lines) {
         return script.check([=] { EXPECT_EQ(messageBar.lines, lines); });
     }
     Script& meet(int col) { return script.click(boardCell(col, bottomRow)); }
-    Script script;
 };
 
 TEST_F(TurnsTest, AMarkedMessageStandsForItsPassAndScrollsAtTheNextTurn) {
@@ -67,27 +63,11 @@ TEST_F(TurnsTest, WhatIsTypedAndPressedBehindAQuestionIsLostWithIt) {
     finish();
 }
 
-TEST_F(TurnsTest, ReplayAndNewAskBetweenTheStagesOfACampaign) {
-    script.check([] {
-        game.campaign = game.campaignStage = 0;
-        prefs.scenarioOver = 1;
-        for (int col = 0; col < columnCount; ++col) column(col).finished = 1;
-        openPlayScreen();
-    });
-    for (const char* key : {"R", "N"})
-        script.key(key).key("n").screen("Gloomdeck 1.2").check([] { EXPECT_EQ(game.turns, 1); });
-    for (const int button : {id::replay, id::newGame})
-        script.button(button).key("n").screen("Gloomdeck 1.2").check([] { EXPECT_EQ(game.turns, 1); });
-    finish();
-}
-
 TEST_F(TurnsTest, AHoveredSquareIsForgottenWhenThePlayScreenOpensAndHoveredAnew) {
-    const auto corner = [] { return pixelAt(boardCell(4, 4).x, boardCell(4, 4).y); };
     for (const Point at : {boardCell(4, 4), statsCell(suns)})
         script.move(at).key("H").key("q").check([=] {
             EXPECT_EQ(widget(id::board).hoverCol, at == boardCell(4, 4) ? 4 : -1);
             EXPECT_EQ(widget(id::stats).hoverCol, at == boardCell(4, 4) ? -1 : 0);
-            EXPECT_EQ(corner() == flatColour(tile::darkness), at != boardCell(4, 4));
         });
     finish();
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <random>
 
+#include "prefs/switches.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

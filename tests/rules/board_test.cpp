@@ -11,7 +11,7 @@ namespace gloomdeck {
 
 namespace {
 
-enum LocationIndex { cellar = 0, ruins = 1, portal = 2, dungeon = 3, crags = 8 };
+constexpr int cellar = 0;
 
 constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
 
@@ -53,19 +53,6 @@ TEST_F(BoardTest, TotalsLeaveOutTheReservedSlotsAndDoNotOverflow) {
     EXPECT_EQ(TotalSkills(), 60);
 }
 
-TEST_F(BoardTest, ARollFindsTheFirstCodeWhoseSumReachesIt) {
-    // clang-format off
-    for (const auto& [location, roll, code] : {
-        std::tuple{dungeon,  1, enc::Gold},     {dungeon, 11, enc::Gold},   {dungeon, 12, enc::Door},
-                  {dungeon, 100, enc::Empty},   {crags, 1, enc::Skeleton},  {ruins, 97, enc::Flower},
-                  {portal, 100, enc::HypnoEye}, {portal, 99, enc::Book},    {ruins, 98, enc::Empty}}) {
-        // clang-format on
-        column(2).location = location;
-        rolls({{100, roll}});
-        EXPECT_EQ(DrawTile(2), code) << location << " " << roll;
-    }
-}
-
 TEST_F(BoardTest, TheEndComesAtTheDecksLastPositionAndNothingAfterItAndNeitherTakesARoll) {
     seedRolls(5);
     InitColumn(0, cellar);
@@ -83,18 +70,6 @@ TEST_F(BoardTest, TheEndComesAtTheDecksLastPositionAndNothingAfterItAndNeitherTa
     column(0).drawn = most;
     EXPECT_EQ(DrawTile(0), enc::Empty);
     EXPECT_TRUE(IsPastEnd(0, 6));
-}
-
-TEST_F(BoardTest, AnEyeHidesItselfAndAllBelowItButNothingFromTheBottomRow) {
-    board(3, 6) = enc::HypnoEye;
-    EXPECT_FALSE(IsHiddenByEye(3, 6));
-    board(3, 5) = enc::HypnoEye;
-    for (int row = 0; row < rowCount; ++row) EXPECT_EQ(IsHiddenByEye(3, row), row >= 5) << row;
-    board(3, 2) = enc::HypnoEye;
-    EXPECT_EQ(FirstEyeRow(3), 2);
-    EXPECT_FALSE(IsHiddenByEye(2, 6));
-    turnsLeft(magicSight) = 1;
-    EXPECT_FALSE(IsHiddenByEye(3, 6));
 }
 
 }  // namespace gloomdeck

@@ -1,7 +1,6 @@
 // Meeting tiles: what each costs, gives and leaves.
 #include "rules/encounter.h"
 
-#include "rules/clear_cell.h"
 #include "tests/rules/rule_test.h"
 
 namespace gloomdeck {
@@ -84,37 +83,6 @@ TEST_F(EncounterTest, ABookAlwaysDrawsBothBonusesAndNamesTheSkill) {
     EXPECT_TRUE(ui.messagePosted);
 }
 
-TEST_F(EncounterTest, TheKingsGoldAndTheEndHoldTheColumn) {
-    count(health) = 20;
-    EXPECT_EQ(meet(enc::SkeletonKing, {{6, 2}, {6, 3}, {6, 1}, noToughness}), 1);
-    EXPECT_EQ(count(health), 14);
-    EXPECT_EQ(board(3, 6), enc::Gold);
-    EXPECT_EQ(meet(enc::TheEnd, {}), 1);
-    EXPECT_EQ(column(3).finished, 1U);
-    EXPECT_EQ(board(3, 6), enc::TheEnd);
-    EXPECT_EQ(column(3).drawn, 0);
-}
-
-TEST_F(EncounterTest, AHiddenTileIsMetAndTheNewOneDealtBeforeTheEyesBeam) {
-    board(3, 2) = enc::HypnoEye;
-    EXPECT_EQ(meet(enc::Gold, {{10, 3}, doorDealt, {30, 29}}), 1);
-    EXPECT_EQ(count(gold), 3);
-    EXPECT_TRUE(advanced());
-    EXPECT_TRUE(shows({3, 0}, tile::door) && shows({3, 6}, tile::cellar));
-}
-
-TEST_F(EncounterTest, DarknessAndCaveTakeTheirTorchesUnlessSightSparesThem) {
-    for (const int torchesSpent : {0, 3}) {
-        turnsLeft(magicSight) = torchesSpent == 0 ? 1 : 0;
-        count(torches) = 3;
-        EXPECT_EQ(meet(enc::Darkness, {doorDealt}), 1);
-        EXPECT_TRUE(advanced());
-        EXPECT_EQ(meet(enc::Cave, {{15, 10}}), 1);
-        EXPECT_EQ(count(torches), 3 - torchesSpent);
-        EXPECT_EQ(column(3).drawn, 0) << "an empty cave does not let the column advance";
-    }
-}
-
 TEST_F(EncounterTest, AMasterThiefStealsThreeTimesAndKeepsWhatItTookBeforeItsRefusal) {
     level(thiefProtection) = 40;
     game.inventory = {1, 0, 3};
@@ -124,23 +92,6 @@ TEST_F(EncounterTest, AMasterThiefStealsThreeTimesAndKeepsWhatItTookBeforeItsRef
     EXPECT_EQ(meet(enc::MasterThief, {{100, 41}, {9, 1}}), 0);
     EXPECT_EQ(game.inventory, Inventory{});
     EXPECT_EQ(messageBar.lines[1], "Need total stats above 0.") << "the third theft is tried too";
-}
-
-TEST_F(EncounterTest, OnlyCaveAndKingLeaveSomethingAndItIsRevealed) {
-    prefs.GameSpeed = normalSpeed;
-    // clang-format off
-    for (const auto& [code, roll, left, isEmpty, revealed] : {
-        std::tuple{enc::Cave, 3, enc::Ghost, false, 1}, {enc::Cave, 10, enc::Empty, false, 1},
-                  {enc::Cave, 15, enc::Gold, false, 1}, {enc::SkeletonKing, 0, enc::Gold, false, 1},
-                  {enc::Door, 0, enc::Empty, true, 0},  {enc::TheEnd, 0, enc::TheEnd, false, 0}}) {
-        // clang-format on
-        const long slept = script::sleptMilliseconds();
-        board(1, 4) = code;
-        if (roll != 0) rolls({{15, roll}});
-        EXPECT_EQ(ClearCell(1, 4), isEmpty) << code;
-        EXPECT_EQ(board(1, 4), left) << code;
-        EXPECT_EQ(script::sleptMilliseconds() - slept, revealed * 31 * 30) << code;
-    }
 }
 
 }  // namespace gloomdeck

@@ -4,9 +4,6 @@
 #include <vector>
 
 #include "rules/encounter.h"
-#include "rules/tiles.h"
-#include "shell/palette.h"
-#include "shell/widgets/places.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -14,7 +11,6 @@ namespace gloomdeck {
 using Inventory = std::array<std::int32_t, 10>;
 using Powers = std::array<std::int32_t, 4>;
 
-inline constexpr int normalSpeed = 2;
 inline constexpr FedRoll doorDealt{100, 12};  // in a Dungeon column
 inline constexpr FedRoll noToughness{100, 100};
 
@@ -32,10 +28,6 @@ class RuleTest : public GameTest {
 
     static bool advanced(int col = 3) { return column(col).drawn == 1 && board(col, 0) == enc::Door; }
 
-    static void fillBoard(enc::Code code) {
-        for (int i = 0; i < columnCount * rowCount; ++i) board(i % columnCount, i / columnCount) = code;
-    }
-
     static int countOf(enc::Code code) {
         int found = 0;
         for (int i = 0; i < columnCount * rowCount; ++i)
@@ -45,20 +37,6 @@ class RuleTest : public GameTest {
 
     // The newest message and the one before it.
     static std::string messagesShown() { return newestMessage() + "|" + messageBar.lines[1]; }
-
-    // By a pixel that no beam reaches from an eye far above.
-    static bool shows(Point cell, int tileNumber) {
-        const Point at = boardGrid.corner(cell.x, cell.y);
-        return pixelAt(at.x + 3, at.y + 3) == flatColour(tileNumber);
-    }
-
-    // Where the beam of an eye that rolled the smallest (1) or the greatest (30) ends.
-    static bool beamEnds(int col, int roll) {
-        return pixelAt(boardGrid.corner(col, 0).x + roll, boardGrid.area().y2) == colour::brown;
-    }
-
-    static Colour countBox(int item) { return pixelAt(statsGrid.x + 34, statsGrid.corner(0, item).y); }
-    static Colour skillBox(int row) { return pixelAt(397, statsGrid.corner(0, row).y); }
 };
 
 }  // namespace gloomdeck

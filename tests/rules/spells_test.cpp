@@ -1,50 +1,24 @@
 #include "rules/spells.h"
 
-#include "shell/palette.h"
-#include "shell/widgets/places.h"
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
 
 namespace {
 
-const Colour bareTerrain = flatColour(tile::cellar);  // how a hidden cell looks
-
 void chances(std::initializer_list<int> drawn) {
     for (const int roll : drawn) rolls({{100, roll}});
-}
-
-void beam() { rolls({{30, 15}}); }
-
-// A bolt misses in so many rows.
-void boltRises(int rows) {
-    for (int i = 0; i < rows; ++i) rolls({{100, 100}, {26, 1}});
-}
-
-// Codes from the bottom row up.
-void pile(int col, std::initializer_list<int> codes) {
-    for (int row = bottomRow; const int code : codes) cell(col, row--) = code;
-}
-
-void onlyColumnIs(int col) {
-    for (int other = 0; other < columnCount; ++other) column(other).finished = other != col;
-}
-
-// The cell's pixel beside the middle that no bolt, no ring and no corner touches.
-Colour cellPixel(int col, int row) {
-    const Point corner = boardGrid.corner(col, row);
-    return pixelAt(corner.x + 1, corner.y + 16);
 }
 
 // Casts over a column of Empty cells with one code in its bottom cell, on which that roll falls.
 int castOnto(int item, int code, int boost, int roll) {
     makeEmptyBoard();
-    onlyColumnIs(3);
-    pile(3, {code});
+    for (const int other : {0, 1, 2, 4, 5, 6}) column(other).finished = 1;
+    cell(3, bottomRow) = code;
     game.skills = {0, 0, boost, boost, boost, 0};
     if (item == lightningBolts) {
         rolls({{26, 1}, {100, roll}, {26, 1}});
-        boltRises(6);
+        for (int i = 0; i < 6; ++i) rolls({{100, 100}, {26, 1}});
         CastLightning(0, 3);
     } else {
         chances({100, 100, 100, 100, 100, 100, roll});
@@ -56,24 +30,6 @@ int castOnto(int item, int code, int boost, int roll) {
 }  // namespace
 
 using SpellsTest = GameTest;
-
-TEST_F(SpellsTest, TheSunRollsForEveryCellOfUnfinishedColumnsFromTheTopLeft) {
-    onlyColumnIs(6);
-    column(0).finished = 0;
-    board(0, 0) = enc::Darkness;
-    board(0, 3) = enc::Cave;
-    column(6).drawn = 57;  // The End stands in row 4
-    pile(6, {enc::Skeleton, enc::Empty, enc::TheEnd});
-    chances({100, 1, 1, 20});  // what never works draws its roll too
-    rolls({{15, 14}});         // the cave's contents come right after the hit
-    chances({100, 100, 100});
-    chances({1, 1, 1, 1, 1, 1, 16});  // also for what lies past the end
-    CastSun();
-    EXPECT_EQ(board(0, 0), enc::Empty);
-    EXPECT_EQ(board(0, 3), enc::LockedChest);
-    EXPECT_EQ(board(6, 6), enc::Empty);
-    EXPECT_EQ(column(6).drawn, 57) << "a cleared bottom cell does not move its column";
-}
 
 TEST_F(SpellsTest, AHitNeedsARollUpToTheChanceOfTheTileAndTheSkillAndOnlyTheSpellIsSpent) {
     struct Case {
@@ -94,52 +50,6 @@ TEST_F(SpellsTest, AHitNeedsARollUpToTheChanceOfTheTileAndTheSkillAndOnlyTheSpel
     EXPECT_EQ(game.inventory, (std::array<std::int32_t, 10>{0, 0, 0, 4, 5, 4, 0, 0, 20}));
 }
 
-TEST_F(SpellsTest, TheShieldStrikesUpToTheEndAndDrawsTheColumnOfAnEyeForEveryCell) {
-    onlyColumnIs(3);
-    column(3).drawn = 57;
-    pile(3, {enc::Chest, enc::HypnoEye, enc::TheEnd});
-    level(shieldBoost) = 95;
-    beam();
-    chances({1});
-    beam();
-    chances({100, 100});  // the eye is gone: no beam
-    CastShield();
-    EXPECT_EQ(board(3, 4), enc::TheEnd);
-    EXPECT_EQ(cellPixel(3, 6), flatColour(tile::chest));
-}
-
-TEST_F(SpellsTest, TheBoltRisesToTheEndAndScorchesWhatItEmpties) {
-    column(3).drawn = 57;
-    pile(3, {enc::Skeleton, enc::SkeletonKing, enc::TheEnd});
-    rolls({{26, 1}, {100, 50}, {26, 1}, {100, 4}, {26, 1}, {100, 1}, {26, 1}});
-    CastLightning(0, 3);
-    EXPECT_EQ(board(3, 4), enc::TheEnd);
-    EXPECT_EQ(cellPixel(3, 5), flatColour(tile::gold)) << "what is left is not scorched";
-    EXPECT_EQ(cellPixel(3, 6), flatColour(tile::scorch));
-}
-
-TEST_F(SpellsTest, WhatAnEyeHidesStaysHiddenThroughSunBoltAndHand) {
-    onlyColumnIs(3);
-    pile(3, {enc::Skeleton, enc::SkeletonKing, enc::Empty, enc::HypnoEye});
-    beam();  // the board after the flash
-    chances({100, 100, 100, 100, 100});
-    rolls({{100, 4}, {30, 1}, {100, 100}});  // the Gold that the King leaves is not revealed
-    CastSun();
-    EXPECT_EQ(cellPixel(3, 5), bareTerrain);
-    beam();
-    rolls({{26, 1}, {100, 50}, {26, 1}});
-    boltRises(6);
-    beam();
-    CastLightning(1, 3);
-    EXPECT_EQ(board(3, 6), enc::Empty);
-    EXPECT_EQ(cellPixel(3, 6), bareTerrain);
-    board(3, 6) = enc::Fruit;
-    rolls({{6, 3}, {30, 15}, {30, 15}});
-    EXPECT_EQ(UseHand(3, 6), 1);
-    EXPECT_EQ(count(health), 3);
-    EXPECT_EQ(cellPixel(3, 6), bareTerrain);
-}
-
 TEST_F(SpellsTest, TheBlastTakesTheCentreSurelyTheSidesAtThreeQuartersTheCornersAtHalf) {
     count(bombs) = 2;
     for (const int over : {0, 1}) {
@@ -151,30 +61,7 @@ TEST_F(SpellsTest, TheBlastTakesTheCentreSurelyTheSidesAtThreeQuartersTheCorners
         for (int i = 0; i < 9; ++i)
             EXPECT_EQ(board(2 + i / 3, 2 + i % 3), over && i != 4 ? enc::Chest : enc::Empty) << i;
     }
-    EXPECT_EQ(cellPixel(3, 3), flatColour(tile::scorch));
     EXPECT_EQ(count(bombs), 1) << "the second one was free";
-}
-
-TEST_F(SpellsTest, InACornerTheBlastRollsForFourCellsAndSparesTheEnd) {
-    column(6).drawn = 53;
-    board(6, 0) = enc::TheEnd;
-    board(5, 0) = enc::SkeletonKing;
-    chances({75, 1, 1, 1});
-    DropBomb(0, 1, 6, 0);
-    EXPECT_EQ(board(6, 0), enc::TheEnd);
-    EXPECT_EQ(board(5, 0), enc::Empty) << "a King leaves nothing";
-}
-
-TEST_F(SpellsTest, TheBlastRedrawsAColumnWithAnEyeOnlyWhenItHitSomethingThere) {
-    board(2, 0) = board(4, 0) = enc::HypnoEye;
-    board(2, 5) = board(4, 5) = enc::Chest;
-    beam();  // the pressed column has none, the board two
-    beam();
-    chances({1, 75, 1});
-    beam();
-    chances({100, 100, 100, 1, 76, 1});
-    DropBomb(1, 1, 3, 5);
-    EXPECT_EQ(cellPixel(2, 5), bareTerrain) << "the scorch is hidden";
 }
 
 TEST_F(SpellsTest, AFilthWithNowhereToSpreadIsClearedFromAfarAndItsColumnStays) {

@@ -8,7 +8,7 @@ import tempfile
 
 sys.path[:0] = [str(pathlib.Path(__file__).parent.parent / "window")]
 
-from driver import BUILD, Fault, check
+from driver import BUILD, Fault, check, chosen
 
 PROBE = BUILD / "tools" / "save_probe" / "gloomdeck_save_probe"
 LIMIT = 60  # seconds that anything may take

@@ -1,13 +1,16 @@
-// The message bar, the game speed, and waiting for the player.
+// The message bar's lines, the game speed, waiting for the player, wrapped text, and cutting picture strips.
+#include <filesystem>
+
 #include "platform/clock.h"
 #include "platform/draw.h"
+#include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "rules/show.h"
 #include "shell/palette.h"
-#include "shell/play/long_message.h"
 #include "shell/widgets/pacing.h"
-#include "shell/widgets/screen_lock.h"
+#include "shell/widgets/panels.h"
+#include "shell/widgets/tile_set.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -22,9 +25,20 @@ class MessagesTest : public GameTest {
         finishScript();
         return timer() - before;
     }
+
+    // The text is drawn in just those lines.
+    static void expectLines(const std::string& text, int width, const std::vector<std::string>& lines) {
+        clearScreen();
+        drawWrappedText(text, 0, 0, width, glyphSize);
+        for (std::size_t i = 0; i <= lines.size(); ++i) {
+            std::string line = i < lines.size() ? lines[i] : "";
+            line.resize(frameWidth / glyphSize, ' ');
+            EXPECT_TRUE(textStandsAt(0, glyphSize * static_cast<int>(i), line, colour::text)) << line;
+        }
+    }
 };
 
-TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRedrawsThem) {
+TEST_F(MessagesTest, FourMessagesStandTrimmedAndCutAndAnEmptyTextOnlyRedrawsThem) {
     const Image blank = screen();
     ShowMessage("   ", 0);
     EXPECT_EQ(screen().pixels, blank.pixels) << "nothing to scroll, nothing drawn";
@@ -32,29 +46,11 @@ TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRe
     EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"", "four", "three", "two"}));
     ShowMessage("  " + std::string(60, 'x'), 0);
     EXPECT_EQ(newestMessage(), std::string(47, 'x'));
-    EXPECT_TRUE(textStandsAt(16, 375, newestMessage(), colour::yellow));
-    EXPECT_TRUE(textStandsAt(16, 355, "four", colour::text));
-    EXPECT_TRUE(textStandsAt(16, 345, "three", colour::text));
     const Image bar = screen();
     screen() = blank;
     ShowMessage("", 1);
     EXPECT_EQ(screen().pixels, bar.pixels);
     EXPECT_FALSE(ui.messagePosted) << "nor is it the turn's message";
-}
-
-TEST_F(MessagesTest, NestedLocksShowNothingBeforeTheOutermostIsReleased) {
-    const auto shownAt = [](int x) { return script::shownFrame()[static_cast<std::size_t>(x)]; };
-    {
-        const HeldScreen outer;
-        for (const int x : {3, 4}) {
-            const HeldScreen inner;
-            fillBox(x, 0, x, 0, colour::red);
-        }
-        EXPECT_NE(shownAt(3), colour::red);
-        sleep(20);
-        EXPECT_NE(shownAt(4), colour::red);
-    }
-    EXPECT_TRUE(shownAt(3) == colour::red && shownAt(4) == colour::red);
 }
 
 TEST_F(MessagesTest, DelaysFollowTheSpeedAndRoundHalvesToEven) {
@@ -90,17 +86,28 @@ TEST_F(MessagesTest, ACloseRequestDuringAWaitIsRememberedAndTheSystemsEndStopsIt
     EXPECT_EQ(readKey(), keycode::close);
 }
 
-TEST_F(MessagesTest, AStoryStandsOverTheBoardWhichComesBackExactly) {
-    drawBoard();
-    const Image before = screen();
-    const auto look = [] {
-        EXPECT_TRUE(textStandsAt(16, 48, "A dark and stormy night in", colour::text));
-        EXPECT_TRUE(textStandsAt(16, 60, "the dungeon.", colour::text));
-    };
-    startScript(Script().check(look).key(" "));
-    showLongMessage("A dark and stormy night in the dungeon.");
-    finishScript();
-    EXPECT_EQ(screen().pixels, before.pixels);
+TEST_F(MessagesTest, WrappedTextBreaksBetweenWordsAndAtBackslashesAndBulletItemsIndentUntilThen) {
+    expectLines("one two three", 7, {"one two", "three"});
+    expectLines("a\\b\\\\c", 9, {"a", "b", "", "c"});
+    expectLines("  lead and trail  ", 8, {"lead", "and", "trail"});
+    expectLines("", 5, {});
+    expectLines("unbreakable", 4, {"unbr", "eaka", "ble"});
+    expectLines("* one two three four\\five six", 9, {"* one two", "  three", "  four", "five six"});
+    expectLines("*item\\* other item here", 12, {"*item", "* other item", "  here"});
+}
+
+TEST_F(MessagesTest, AMissingStripLeavesItsTilesTransparentAndTheLastTileIsBeyondTheStrip) {
+    const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
+    std::filesystem::remove(folder + "/gfx/dtiles2.bmp");
+    loadTiles();
+    const Image nothing = createImage(tile::size, tile::size);
+    EXPECT_EQ(script::toldLines(),
+              std::vector{"the picture " + folder + "/gfx/dtiles2.bmp is missing; put it there again"});
+    for (const int number : {1, 49, 99, 147})
+        EXPECT_EQ(tileImage(number).pixels[16 * 33], flatColour(number));
+    for (const int number : {50, 98, 148}) EXPECT_EQ(tileImage(number).pixels, nothing.pixels);
+    EXPECT_TRUE(tileImage(149).pixels.empty());
 }
 
 }  // namespace gloomdeck

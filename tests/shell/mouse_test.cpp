@@ -1,13 +1,9 @@
-// The mouse handler, what clicks mean, and the hover descriptions.
+// The mouse handler: what is pressed, and what clicks mean.
 #include "shell/widgets/mouse.h"
 
-#include "platform/frame.h"
 #include "platform/input.h"
-#include "rules/show.h"
-#include "shell/palette.h"
-#include "shell/play/describe.h"
+#include "shell/widgets/hit_test.h"
 #include "shell/widgets/layout.h"
-#include "shell/widgets/places.h"
 #include "shell/widgets/press.h"
 #include "tests/support/script.h"
 
@@ -26,67 +22,44 @@ class MouseTest : public GameTest {
     }
     static int press(Point at) { return change(at, true); }
     static int release(Point at) { return change(at, false); }
+    static int drag(Point from, Point to) { return press(from) + release(to); }
     static int leave() {
         pointerLeft(inputQueue());
         return handleMouse();
     }
-    static std::vector<Colour> boardPixels() {
-        Image image = createImage(columnCount * tile::size, rowCount * tile::size);
-        const Rect& area = boardGrid.area();
-        getImage(screen(), area.x1, area.y1, area.x2, area.y2, image);
-        return image.pixels;
-    }
-    static bool describes(std::string_view text) { return textStandsAt(15, 406, text, colour::text); }
 };
 
-TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnItAndElseLooksAsBefore) {
-    for (const int button : {id::help, id::prefs}) drawButton(widget(button));
-    const Image before = screen();
-    press(widgetCentre(id::help));
-    EXPECT_NE(screen().pixels, before.pixels);
-    EXPECT_EQ(release(widgetCentre(id::help)), 1);
+TEST_F(MouseTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
+    Button& grid = widget(id::board);
+    EXPECT_EQ(hitTest(grid, 8 + 32 * 2 + 31, 40 + 32 * 3 + 31, Phase::press), 1);
+    for (const Point out : {Point{7, 40}, Point{8, 39}, Point{232, 100}, Point{100, 264}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::press), 0);
+    EXPECT_TRUE(grid.pressCol == 2 && grid.pressRow == 3);
+    for (const Point in : {Point{72, 136}, Point{103, 167}})
+        EXPECT_EQ(hitTest(grid, in.x, in.y, Phase::release), 1);
+    for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
+        EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
+    Button& exit = widget(id::exit);
+    exit.hidden = true;
+    for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
+        EXPECT_EQ(hitTest(exit, exit.x, exit.y, phase), 0);
+}
+
+TEST_F(MouseTest, AButtonClicksWhenPressAndReleaseLieOnIt) {
+    EXPECT_EQ(drag(widgetCentre(id::help), widgetCentre(id::help)), 1);
     EXPECT_EQ(clickedButton, id::help);
-    press(widgetCentre(id::help));
-    EXPECT_EQ(release(widgetCentre(id::prefs)), 0);
+    EXPECT_EQ(drag(widgetCentre(id::help), widgetCentre(id::prefs)), 0);
     EXPECT_EQ(clickedButton, -1);
-    press(widgetCentre(id::help));
-    EXPECT_EQ(leave(), 0);
-    EXPECT_EQ(screen().pixels, before.pixels);
-    release({300, 20});
-    press({300, 20});
-    EXPECT_EQ(release(widgetCentre(id::help)), 0) << "pressed on nothing";
+    EXPECT_EQ(press(widgetCentre(id::help)) + leave(), 0);
+    EXPECT_EQ(release({300, 20}) + drag({300, 20}, widgetCentre(id::help)), 0) << "pressed on nothing";
 }
 
-TEST_F(MouseTest, APressBelongsToTheScreenItBeganOn) {
-    press(widgetCentre(id::help));
-    restartPress();
-    EXPECT_EQ(release(widgetCentre(id::help)), 0);
-    press(boardCell(2, 5));
-    restartPress();
-    moveTo(widgetCentre(id::exit));
-    EXPECT_EQ(pressedWidget, notPressed) << "still the old press";
-    release(widgetCentre(id::exit));
-    EXPECT_EQ(press(widgetCentre(id::exit)) + release(widgetCentre(id::exit)), 1);
-    drawBoard();
-    const auto before = boardPixels();
-    press(boardCell(2, 5));
-    dropPress();
-    EXPECT_EQ(boardPixels(), before);
-    EXPECT_EQ(pressedWidget, pressedNothing);
-}
-
-TEST_F(MouseTest, ABoardClickMeetsTheBottomTileOfAnOpenColumnAndElseOnlyRedraws) {
+TEST_F(MouseTest, ABoardClickMeetsTheBottomTileOfAnOpenColumn) {
     board(2, 5) = board(2, 6) = board(3, 6) = enc::Door;
     count(keys) = 5;
     column(3).finished = 1;
-    drawBoard();
-    const auto before = boardPixels();
-    const auto drag = [](Point from, Point to) { return press(from) + release(to); };
-    moveTo(boardCell(1, 4));
     EXPECT_EQ(drag(boardCell(2, 6), boardCell(3, 6)), 0);
-    EXPECT_EQ(boardPixels(), before) << "no glow is left where the pointer came from either";
     EXPECT_EQ(press(boardCell(2, 6)) + leave() + release({300, 20}), 0);
-    EXPECT_EQ(boardPixels(), before);
     EXPECT_EQ(drag(boardCell(2, 5), boardCell(2, 5)) + drag(boardCell(3, 6), boardCell(3, 6)), 0);
     EXPECT_EQ(count(keys), 5);
     seedRolls(1);
@@ -107,68 +80,6 @@ TEST_F(MouseTest, AStatsPressCountsWhereverItEnds) {
     EXPECT_EQ(pressedWidget, id::stats) << "a press may come with the return";
     EXPECT_EQ(release({300, 20}), 0);
     EXPECT_EQ(ui.targetMode, target::none);
-}
-
-TEST_F(MouseTest, HoverDescribesAndLeavesCleanAlsoWhenItJumpsBetweenTheGridsUntilTheScenarioIsOver) {
-    board(2, 5) = enc::Skeleton;
-    drawBoard();
-    moveTo(boardCell(2, 5));
-    EXPECT_TRUE(describes("Skeleton"));
-    moveTo(statsCell(gold));
-    EXPECT_TRUE(describes("Gold: "));
-    EXPECT_EQ(widget(id::board).hoverCol, -1);
-    moveTo(boardCell(2, 5));
-    EXPECT_TRUE(describes("Skeleton"));
-    EXPECT_EQ(widget(id::stats).hoverCol, -1);
-    moveTo({300, 20});
-    EXPECT_FALSE(describes("Skeleton"));
-    EXPECT_EQ(pixelAt(boardCell(2, 5).x, boardCell(2, 5).y), flatColour(tile::skeleton));
-    prefs.scenarioOver = 1;
-    const Image before = screen();
-    for (const Point at : {boardCell(2, 6), statsCell(gold)}) {
-        moveTo(at);
-        press(at);
-        EXPECT_EQ(pressedWidget, pressedNothing);
-        release(at);
-    }
-    EXPECT_EQ(screen().pixels, before.pixels);
-}
-
-TEST_F(MouseTest, DescriptionsAddSkillsCoverWhatIsImpossibleAndKeepSecrets) {
-    board(1, 1) = enc::Skeleton;
-    board(1, 2) = enc::HypnoEye;
-    board(1, 3) = enc::Door;
-    level(shieldBoost) = 7;
-    describeBoardCell(1, 1);
-    EXPECT_TRUE(textStandsAt(143, 406, "57%", colour::text));
-    EXPECT_EQ(pixelAt(287, 432), flatColour(tile::bomb));
-    describeBoardCell(1, 0);
-    EXPECT_EQ(pixelAt(287, 432), flatColour(tile::cover)) << "nothing to blow up";
-    describeBoardCell(1, 3);
-    EXPECT_TRUE(describes("This space is hidden by a Hypno Eye."));
-    turnsLeft(magicSight) = 1;
-    describeBoardCell(1, 3);
-    EXPECT_TRUE(describes("Door"));
-    EXPECT_EQ(pixelAt(191, 432), flatColour(tile::cover)) << "no sun clears a door";
-    column(1).drawn = 57;
-    describeBoardCell(1, 3);
-    EXPECT_TRUE(describes("You have finished this column."));
-}
-
-TEST_F(MouseTest, AnEyeHidesWhatLiesBelowAndItsBeamEndsByTheRoll) {
-    board(1, 2) = board(1, 4) = enc::HypnoEye;
-    board(1, 5) = enc::Gold;
-    for (const auto& [roll, end] : {std::pair{1, 42}, {2, 42}, {3, 44}, {30, 70}}) {
-        rolls({{30, roll}});
-        drawColumn(1);
-        for (int x = 40; x < 72; ++x)
-            EXPECT_EQ(pixelAt(x, 263) == colour::brown, std::abs(x - end) <= 1) << roll;
-    }
-    for (const int row : {3, 4, 5, 6})
-        EXPECT_EQ(pixelAt(43, 40 + 32 * row + 3), flatColour(tile::cellar)) << row;
-    turnsLeft(magicSight) = 1;
-    drawColumn(1);
-    EXPECT_EQ(pixelAt(43, 40 + 32 * 5 + 3), flatColour(tile::gold));
 }
 
 }  // namespace gloomdeck

@@ -30,22 +30,6 @@ void addRuns(Film& film, const Colour* row, std::size_t from) {
     }
 }
 
-template <typename Record>
-void writeAll(std::ofstream& file, const std::vector<Record>& records) {
-    const std::uint64_t count = records.size();
-    file.write(reinterpret_cast<const char*>(&count), sizeof count);
-    file.write(reinterpret_cast<const char*>(records.data()),
-               static_cast<std::streamsize>(count * sizeof(Record)));
-}
-
-template <typename Record>
-void readAll(std::ifstream& file, std::vector<Record>& records) {
-    std::uint64_t count = 0;
-    if (!file.read(reinterpret_cast<char*>(&count), sizeof count)) return;
-    records.resize(count);
-    file.read(reinterpret_cast<char*>(records.data()), static_cast<std::streamsize>(count * sizeof(Record)));
-}
-
 }  // namespace
 
 Hash shoot(Film& film, const Image& frame) {
@@ -59,33 +43,30 @@ Hash shoot(Film& film, const Image& frame) {
         film.rowHashes[y] = hashOf(row, rowLength);
     }
     const auto hash = static_cast<Hash>(hashOf(film.rowHashes.data(), film.rowHashes.size()));
-    if (film.pictures.empty() || film.pictures.back().hash != hash)
-        film.pictures.push_back({hash, static_cast<std::uint32_t>(film.runs.size())});
+    film.runs.push_back({0, 0, hash});
     return hash;
 }
 
 std::vector<Colour> pictureOf(const Film& film, Hash hash) {
     std::vector<Colour> pixels(frameSize, 0);
-    std::size_t done = 0;
-    for (const Film::Picture& picture : film.pictures) {
-        for (; done < picture.runs; ++done)
-            std::fill_n(&pixels[film.runs[done].at], film.runs[done].length, film.runs[done].colour);
-        if (picture.hash == hash) return pixels;
+    for (const Film::Run& run : film.runs) {
+        if (run.length == 0 && run.colour == hash) return pixels;
+        if (run.length > frameSize || run.at > frameSize - run.length) return {};  // no film of this size
+        std::fill_n(pixels.begin() + run.at, run.length, run.colour);
     }
     return {};
 }
 
 void saveFilm(const Film& film, const std::string& path) {
-    std::ofstream file(path, std::ios::binary);
-    writeAll(file, film.runs);
-    writeAll(file, film.pictures);
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(film.runs.data()),
+               static_cast<std::streamsize>(film.runs.size() * sizeof(Film::Run)));
 }
 
 Film loadFilm(const std::string& path) {
     Film film;
     std::ifstream file(path, std::ios::binary);
-    readAll(file, film.runs);
-    readAll(file, film.pictures);
+    for (Film::Run run{}; file.read(reinterpret_cast<char*>(&run), sizeof run);) film.runs.push_back(run);
     return film;
 }
 

@@ -11,18 +11,14 @@ namespace gloomdeck {
 using Hash = std::uint32_t;
 
 struct Film {
-    /// Pixels from a place on (counted through the rows) that one colour has replaced.
+    /// Pixels from a place on (counted through the rows) that one colour has replaced; one without length
+    /// ends a picture, and its colour is the picture's hash.
     struct Run {
         std::uint32_t at;
         std::uint32_t length;
         Colour colour;
     };
-    struct Picture {
-        Hash hash;
-        std::uint32_t runs;  // those up to this picture
-    };
     std::vector<Run> runs;
-    std::vector<Picture> pictures;
     std::vector<Colour> last;              // the pixels of the newest picture
     std::vector<std::uint64_t> rowHashes;  // of its rows
 };

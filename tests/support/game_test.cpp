@@ -104,12 +104,13 @@ void resetProgram() {
     missing = 0;
 }
 
+void fillBoard(int code) {
+    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = code;
+}
+
 void makeEmptyBoard() {
-    for (int col = 0; col < columnCount; ++col) {
-        column(col) = {};
-        column(col).location = dungeon;
-        for (int row = 0; row < rowCount; ++row) cell(col, row) = enc::Empty;
-    }
+    for (int col = 0; col < columnCount; ++col) column(col) = {dungeon, 0, {}, 0, 0};
+    fillBoard(enc::Empty);
     game.campaign = none;
 }
 
@@ -140,7 +141,7 @@ void GameTest::TearDown() {
 
 Colour pixelAt(int x, int y) {
     const int index = y * screen().width + x;
-    return screen().pixels[static_cast<std::size_t>(index)];
+    return screen().pixels.at(static_cast<std::size_t>(index));
 }
 
 bool textStandsAt(int x, int y, std::string_view text, Colour ink) {

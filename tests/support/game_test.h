@@ -31,6 +31,8 @@ void seedRolls(std::uint64_t seed);  ///< from a seeded stream instead
 /// Brings the whole program back to the moment before it starts.
 void resetProgram();
 
+void fillBoard(int code);
+
 /// A board of Empty cells in Dungeon columns (deck 60), as far from their end as can be.
 void makeEmptyBoard();
 

@@ -74,10 +74,6 @@ Script& Script::screen(const std::string& title) {
     return check([=] { EXPECT_EQ(script::windowTitle(), title); });
 }
 
-Script& Script::newest(const std::string& text) {
-    return check([=] { EXPECT_EQ(messageBar.lines.front(), text); });
-}
-
 Script& Script::mouse(Point at, const std::vector<bool>& changes) {
     return then([=](InputQueue& queue) { pointAt(queue, at, changes); });
 }

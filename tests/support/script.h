@@ -28,7 +28,6 @@ struct Script {
     Script& then(const Step& step);
     Script& check(const std::function<void()>& look);
     Script& screen(const std::string& title);  ///< expects that title of the window
-    Script& newest(const std::string& text);   ///< expects that newest message
     Script& key(std::string_view text);
     Script& type(std::string_view text);  ///< one key a character
     Script& mouse(Point at, const std::vector<bool>& changes);
@@ -68,6 +67,10 @@ class PlayTest : public GameTest {
     std::string dataFile(const std::string& name) const;  ///< its bytes; empty when there is none
     void writeDataFile(const std::string& name, const std::string& bytes) const;
 
+    /// A first run with the script; the window is closed after its last step.
+    void finish() { EXPECT_EQ(firstRun(script.closeWindow()), 0); }
+
+    Script script;
     bool withPictures = true;
     std::string folder;
 };
@@ -76,11 +79,6 @@ class PlayTest : public GameTest {
 class QuickPlayTest : public PlayTest {
   protected:
     QuickPlayTest() { withPictures = false; }
-
-    /// The window is closed after the last step.
-    void finish() { EXPECT_EQ(firstRun(script.closeWindow()), 0); }
-
-    Script script;
 };
 
 }  // namespace gloomdeck

@@ -10,6 +10,7 @@
 #include "art/picture_files.h"
 #include "platform/clock.h"
 #include "platform/frame.h"
+#include "tests/support/film.h"
 
 namespace gloomdeck {
 namespace {
@@ -20,11 +21,22 @@ constexpr double clockStart = 1 << 16;
 constexpr std::size_t mostFaultsTold = 40;  // each with a picture
 const std::string signatureFile = GLOOMDECK_SIGNATURE_FILE;
 const std::string pictureFolder = GLOOMDECK_SIGNATURE_FOLDER;
+const std::string filmFile = pictureFolder + "/film";  // of the last play that was as kept
+
+/// A picture and the milliseconds that it stood.
+struct Shot {
+    Hash picture;
+    long milliseconds;
+};
+
+struct Step {
+    std::string name;
+    std::vector<Shot> shots;
+};
 
 struct Recorder {
     Film film;
-    Film kept;  // of the last play that was as kept
-    std::vector<SignatureStep> steps;
+    std::vector<Step> steps;
     double lastNoted = 0;
 };
 Recorder recorder;
@@ -39,34 +51,32 @@ void note() {
     if (shots.empty() || shots.back().picture != picture) shots.push_back({picture, 0});
 }
 
-std::string textOf(const SignatureStep& step) {
+// As the file has them after the name: " picture@milliseconds" each.
+std::string textOf(const std::vector<Shot>& shots) {
     std::ostringstream text;
-    text << step.name << ':' << std::hex;
-    for (const Shot& shot : step.shots)
-        text << ' ' << shot.picture << '@' << std::dec << shot.milliseconds << std::hex;
+    for (const Shot& shot : shots)
+        text << ' ' << std::hex << shot.picture << '@' << std::dec << shot.milliseconds;
     return text.str();
 }
 
-SignatureStep stepOf(const std::string& line) {
-    const std::size_t colon = line.find(':');
-    SignatureStep step{.name = line.substr(0, colon), .shots = {}};
-    std::istringstream rest(colon == std::string::npos ? "" : line.substr(colon + 1));
-    Shot shot{};
-    for (char at = 0; rest >> std::hex >> shot.picture >> at >> std::dec >> shot.milliseconds;)
-        step.shots.push_back(shot);
-    return step;
-}
-
-std::vector<SignatureStep> keptSteps() {
-    std::vector<SignatureStep> steps;
+std::map<std::string, std::string> keptSteps() {
+    std::map<std::string, std::string> steps;
     std::ifstream file(signatureFile);
-    for (std::string line; std::getline(file, line);) steps.push_back(stepOf(line));
+    for (std::string name, shots; std::getline(file, name, ':') && std::getline(file, shots);)
+        steps[name] = shots;
     return steps;
 }
 
 void writeSignature() {
     std::ofstream file(signatureFile);
-    for (const SignatureStep& step : recorder.steps) file << textOf(step) << '\n';
+    for (const Step& step : recorder.steps) file << step.name << ':' << textOf(step.shots) << '\n';
+}
+
+// Those of an earlier play.
+void forgetPictures() {
+    std::filesystem::create_directories(pictureFolder);
+    for (const auto& entry : std::filesystem::directory_iterator(pictureFolder))
+        if (entry.path().extension() == ".bmp") std::filesystem::remove(entry);
 }
 
 Colour colourAt(const std::vector<Colour>& pixels, int x, int y) {
@@ -75,7 +85,7 @@ Colour colourAt(const std::vector<Colour>& pixels, int x, int y) {
 
 // Expected, drawn, and where they differ, side by side; an expected one that is not to be had is black.
 std::string writePictures(const std::string& name, Hash expected, Hash drawn) {
-    const std::vector<Colour> before = pictureOf(recorder.kept, expected);
+    const std::vector<Colour> before = pictureOf(loadFilm(filmFile), expected);
     const std::vector<Colour> now = pictureOf(recorder.film, drawn);
     art::Canvas picture(3 * frameWidth, frameHeight);
     for (int y = 0; y < frameHeight; ++y)
@@ -93,32 +103,38 @@ std::string writePictures(const std::string& name, Hash expected, Hash drawn) {
 }
 
 // What differs first in a step; empty where nothing does.
-std::string difference(const SignatureStep& kept, const SignatureStep& now) {
-    const auto differs =
-        std::mismatch(kept.shots.begin(), kept.shots.end(), now.shots.begin(), now.shots.end());
-    if (differs.first == kept.shots.end() && differs.second == now.shots.end()) return {};
-    const std::string pause = "pause " + std::to_string(differs.first - kept.shots.begin() + 1);
-    if (differs.first == kept.shots.end()) return pause + " was not there";
-    if (differs.second == now.shots.end()) return pause + " is missing";
-    if (differs.first->picture == differs.second->picture)
-        return pause + " stood " + std::to_string(differs.second->milliseconds) + " ms, not " +
-               std::to_string(differs.first->milliseconds);
-    return pause + " has another picture: " +
-           writePictures(now.name, differs.first->picture, differs.second->picture);
+std::string difference(const std::string& name, const std::string& keptShots, const std::string& shots) {
+    std::istringstream kept(keptShots);
+    std::istringstream drawn(shots);
+    for (int number = 1;; ++number) {
+        std::string before;
+        std::string now;
+        kept >> before;
+        drawn >> now;
+        if (before.empty() && now.empty()) return {};
+        const std::string pause = "pause " + std::to_string(number);
+        if (before.empty() || now.empty()) return pause + (now.empty() ? " is missing" : " was not there");
+        const std::size_t at = now.find('@');
+        if (before.substr(0, before.find('@')) != now.substr(0, at))
+            return pause + " has another picture: " +
+                   writePictures(name, static_cast<Hash>(std::stoul(before, nullptr, 16)),
+                                 static_cast<Hash>(std::stoul(now, nullptr, 16)));
+        if (before != now)
+            return pause + " stood " + now.substr(at + 1) + " ms, not " + before.substr(at + 1);
+    }
 }
 
 std::vector<std::string> differences() {
-    std::map<std::string, SignatureStep> kept;
-    for (const SignatureStep& step : keptSteps()) kept[step.name] = step;
+    std::map<std::string, std::string> kept = keptSteps();
     std::vector<std::string> found;
-    for (const SignatureStep& step : recorder.steps) {
-        if (found.size() == mostFaultsTold) break;
-        const auto before = kept.extract(step.name);
-        const std::string fault = before ? difference(before.mapped(), step) : "is new, or there twice";
-        if (!fault.empty()) found.push_back(step.name + ": " + fault);
+    for (const auto& [name, shots] : recorder.steps) {
+        if (found.size() == mostFaultsTold) return found;
+        const auto before = kept.extract(name);
+        const std::string fault =
+            before ? difference(name, before.mapped(), textOf(shots)) : "is new, or there twice";
+        if (!fault.empty()) found.push_back(name + ": " + fault);
     }
-    if (found.size() < mostFaultsTold)
-        for (const auto& [name, step] : kept) found.push_back(name + ": is gone");
+    for (const auto& [name, shots] : kept) found.push_back(name + ": is gone");
     return found;
 }
 
@@ -136,9 +152,8 @@ StagedPlay& StagedPlay::step(const std::string& name) {
 }
 
 void SignatureTest::expectSignature(StagedPlay& play) {
-    recorder = {
-        .film = {}, .kept = loadFilm(pictureFolder + "/film"), .steps = {{.name = "start", .shots = {}}}};
     script::advanceClock(clockStart - timer());
+    recorder = {.film = {}, .steps = {{.name = "start", .shots = {}}}};
     seedRolls(1);
     for (Script::Step& step : play.steps)
         step = [step](InputQueue& queue) {
@@ -150,16 +165,17 @@ void SignatureTest::expectSignature(StagedPlay& play) {
         return true;
     });
     EXPECT_EQ(run(play.closeWindow()), 0);
-    std::filesystem::create_directories(pictureFolder);
+    forgetPictures();
+    const bool refresh = std::getenv("GLOOMDECK_REFRESH_SIGNATURE") != nullptr;
     const std::vector<std::string> found = differences();
-    if (std::getenv("GLOOMDECK_REFRESH_SIGNATURE")) {
-        writeSignature();
-        for (const std::string& fault : found) std::printf("%s\n", fault.c_str());
-    } else {
-        for (const std::string& fault : found) ADD_FAILURE() << fault;
-        if (!found.empty()) return;
+    for (const std::string& fault : found) {
+        if (!refresh)
+            ADD_FAILURE() << fault;
+        else
+            std::printf("%s\n", fault.c_str());
     }
-    saveFilm(recorder.film, pictureFolder + "/film");
+    if (refresh) writeSignature();
+    if (refresh || found.empty()) saveFilm(recorder.film, filmFile);
 }
 
 }  // namespace gloomdeck

@@ -1,21 +1,8 @@
 // The signature of the pictures: of every step of a play each picture that stood, and how long.
 #pragma once
-#include "tests/support/film.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
-
-/// A picture and the milliseconds that it stood.
-struct Shot {
-    Hash picture;
-    long milliseconds;
-    friend bool operator==(const Shot&, const Shot&) = default;
-};
-
-struct SignatureStep {
-    std::string name;
-    std::vector<Shot> shots;
-};
 
 /// A play in named steps. A step's rolls come from a stream that its name seeds, so that none depends on the
 /// steps before it.

@@ -21,6 +21,8 @@ WIDTH, HEIGHT = 408, 488
 SCREEN = 1600, 1200  # not room enough for the window to open at 2x
 OUTSIDE = 1590, 1190  # of windows at their opening size
 
+QUICK_CLICK = "mousedown", "1", "mouseup", "1"  # without the pause that xdotool's `click` makes
+
 EMPTY = 8  # on the board
 TREASURY, DECK = 4, 20
 SUNS = 5  # of the items
@@ -37,6 +39,16 @@ class Fault(Exception):
 def check(right, what):
     if not right:
         raise Fault(what)
+
+
+def chosen(tests):
+    """Of the tests by their names those that the further arguments name, or all; --list prints the names instead."""
+    names = sys.argv[3:] or tests
+    if "--list" in names:
+        print(*tests, sep="\n")
+        sys.exit()
+    check(set(names) <= set(tests), f"there is no test '{' '.join(names)}'; --list tells the names")
+    return [tests[name] for name in names]
 
 
 def until(what, condition):
@@ -201,9 +213,17 @@ class Game:
     def leave(self):
         self.xdotool("mousemove", *OUTSIDE)
 
+    def place(self):
+        shell = self.xdotool("getwindowgeometry", "--shell", self.window)
+        words = dict(line.split("=") for line in shell.splitlines())
+        return int(words["X"]), int(words["Y"])
+
     def click(self, place, times=1):
-        quick = "mousedown", "1", "mouseup", "1"  # without the pause that `click` makes
-        self.xdotool("mousemove", "--window", self.window, *place, *(times * quick))
+        self.xdotool("mousemove", "--window", self.window, *place, *(times * QUICK_CLICK))
+
+    def press(self):
+        """Where the pointer rests."""
+        self.xdotool(*QUICK_CLICK)
 
     def key(self, *names):
         self.xdotool("key", *names)
@@ -231,10 +251,12 @@ class Game:
     def until_at_rest(self, screen):
         self.until(f"rest on the screen '{screen}'", self.is_at_rest)
 
-    def until_ended(self):
+    def until_ended(self, missing_pictures=()):
         code, errors = finish(self.process)
         xlib = errors.startswith("X connection to")  # it tells of a lost server itself
-        check(code == 0 and (xlib or not errors), f"the program ended with code {code} and wrote '{errors}'")
+        expected = "".join(f"gloomdeck: the picture {self.folder}/gfx/{name}.bmp is missing; put it there again\n"
+                           for name in missing_pictures)
+        check(code == 0 and (xlib or errors == expected), f"the program ended with code {code} and wrote '{errors}'")
         return read_saved(self.folder) if (self.folder / "Data").exists() else None
 
 
