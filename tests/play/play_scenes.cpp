@@ -152,7 +152,10 @@ void playSpells(StagedPlay& play) {
         aimAt(play, bombs, boardCell(at.x, at.y));
     }
     for (int code = 0; code < encounterCount; ++code) {
-        scene(play, "hand on " + std::string(encounterType(code).name), everyCode);
+        scene(play, "hand on " + std::string(encounterType(code).name), [] {
+            everyCode();
+            cell(1, 5) = enc::HypnoEye;  // below another
+        });
         aimAt(play, hands, boardCell(code % columnCount, code / columnCount));
     }
     scene(play, "hand below an eye", [] {

@@ -85,7 +85,7 @@ void playQuestions(StagedPlay& play) {
         play.key(key).key("\t").key(keycode::left).press(yes).release(no).press(no).release(yes);
         play.press({5, 5}).release(yes).click(no);
     }
-    scene(play, "replay", [] {});
+    scene(play, "replay", [] { prefs.campaignChoice = none; });  // without a story
     play.key("R").key("y");
 }
 

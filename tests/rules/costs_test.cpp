@@ -15,6 +15,7 @@ TEST_F(CostsTest, ALockIsPickedForFreeElseTakesItsKeysSilentlyElseTheSkillTriesA
         {2, 30, 2, {15},      1, 2, "You picked the lock!"},
         {2, 30, 2, {16},      1, 0, ""},
         {2,  2, 1, {2, 2, 1}, 1, 1, "Picked lock in 3 tries."},
+        {1,  1, 0, {2, 1},    1, 0, "Picked lock in 2 tries."},
         {2,  1, 1, {1},       0, 1, "2 Keys needed."},
     };
     // clang-format on

@@ -40,6 +40,7 @@ TEST_F(MouseTest, APressTakesTheCellByItsFloorAndAReleaseCountsInThatCellOnly) {
     for (const Point out : {Point{71, 140}, Point{104, 140}, Point{80, 135}, Point{80, 168}, Point{-1, -1}})
         EXPECT_EQ(hitTest(grid, out.x, out.y, Phase::release), 0);
     Button& exit = widget(id::exit);
+    EXPECT_EQ(hitTest(exit, exit.x, exit.y, Phase::press), 1);
     exit.hidden = true;
     for (const Phase phase : {Phase::press, Phase::release, Phase::hover})
         EXPECT_EQ(hitTest(exit, exit.x, exit.y, phase), 0);
