@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "platform/draw.h"
 #include "platform/geometry.h"
-#include "platform/image.h"
 #include "shell/tiles.h"
 
 namespace gloomdeck {
