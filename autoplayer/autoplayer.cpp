@@ -7,6 +7,7 @@
 #include "autoplayer/autoplayer_table.h"
 #include "platform/draw.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "rules/board_turn.h"
@@ -16,7 +17,6 @@
 #include "rules/spells.h"
 #include "shell/mouse.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 
 namespace gloomdeck {

@@ -9,11 +9,11 @@
 #include "platform/frame.h"
 #include "platform/host_script.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "platform/random.h"
 #include "prefs/prefs.h"
 #include "rules/board.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tile_set.h"
 
 namespace gloomdeck {

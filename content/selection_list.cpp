@@ -5,8 +5,8 @@
 #include "content/campaigns.h"
 #include "content/scenarios.h"
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/panels.h"
 
 namespace gloomdeck {

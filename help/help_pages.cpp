@@ -5,9 +5,9 @@
 
 #include "help/help_texts.h"
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/catalogue.h"
 #include "shell/describe.h"
-#include "shell/palette.h"
 #include "shell/panels.h"
 #include "shell/tile_set.h"
 

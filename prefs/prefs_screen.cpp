@@ -5,12 +5,12 @@
 
 #include "platform/draw.h"
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
 #include "shell/layout.h"
 #include "shell/mouse.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/panels.h"
 #include "shell/screen_lock.h"
 #include "shell/screen_poll.h"

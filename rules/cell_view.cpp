@@ -3,10 +3,10 @@
 #include "content/locations.h"
 #include "platform/draw.h"
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/tile_set.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/game_state.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/tile_set.h"
 

@@ -4,6 +4,7 @@
 
 #include "platform/draw.h"
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/cell_view.h"
@@ -13,7 +14,6 @@
 #include "rules/hero.h"
 #include "shell/board_view.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/screen_lock.h"
 #include "shell/tiles.h"

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/tile_set.h"
 

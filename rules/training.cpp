@@ -1,10 +1,10 @@
 #include "rules/training.h"
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tile_set.h"
 
 namespace gloomdeck {

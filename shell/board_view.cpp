@@ -4,11 +4,11 @@
 
 #include "content/locations.h"
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "rules/dice.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/screen_lock.h"
 #include "shell/tile_set.h"

@@ -1,8 +1,8 @@
 #include "shell/button.h"
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
-#include "shell/palette.h"
 
 namespace gloomdeck {
 

@@ -2,9 +2,9 @@
 
 #include "platform/draw.h"
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "rules/stats_column.h"
 #include "shell/describe.h"
-#include "shell/palette.h"
 #include "shell/play_pieces.h"
 #include "shell/tile_set.h"
 #include "shell/ui_state.h"

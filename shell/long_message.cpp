@@ -1,9 +1,9 @@
 #include "shell/long_message.h"
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "shell/board_view.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/panels.h"
 #include "shell/places.h"
 #include "shell/screen_lock.h"

@@ -4,9 +4,9 @@
 
 #include "platform/draw.h"
 #include "platform/font.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 
 namespace gloomdeck {
 

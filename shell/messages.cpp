@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/draw.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/panels.h"
 #include "shell/places.h"
 #include "shell/text.h"

@@ -4,7 +4,7 @@
 
 #include "platform/draw.h"
 #include "platform/font.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/places.h"
 #include "shell/screen_lock.h"
 #include "shell/text.h"

@@ -1,7 +1,7 @@
 #include "shell/play_pieces.h"
 
 #include "platform/draw.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/panels.h"
 #include "shell/places.h"
 #include "shell/screen_lock.h"

@@ -1,6 +1,6 @@
 // Runs: what stops them, what is spent on grief, and what every move takes with it.
+#include "platform/palette.h"
 #include "shell/mouse.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "tests/autoplayer/autoplayer_test.h"
 

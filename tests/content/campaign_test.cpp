@@ -5,8 +5,8 @@
 #include "content/campaign_flow.h"
 #include "content/campaigns.h"
 #include "content/game_flow.h"
+#include "platform/palette.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tiles.h"
 #include "tests/support/script.h"
 

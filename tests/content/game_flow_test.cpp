@@ -2,8 +2,8 @@
 
 #include <cstring>
 
+#include "platform/palette.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tiles.h"
 #include "tests/support/script.h"
 

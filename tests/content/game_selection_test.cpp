@@ -1,9 +1,9 @@
 #include "content/game_selection.h"
 
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "prefs/saved_data.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

@@ -1,8 +1,8 @@
 #include "help/help_pages.h"
 #include "help/help_screen.h"
 #include "help/help_texts.h"
+#include "platform/palette.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

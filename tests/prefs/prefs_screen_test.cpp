@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {

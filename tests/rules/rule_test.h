@@ -3,8 +3,8 @@
 
 #include <vector>
 
+#include "platform/palette.h"
 #include "rules/encounter.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "shell/tiles.h"
 #include "tests/support/script.h"

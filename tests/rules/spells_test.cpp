@@ -1,6 +1,6 @@
 #include "rules/spells.h"
 
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/places.h"
 #include "tests/support/game_test.h"
 

@@ -1,6 +1,6 @@
+#include "platform/palette.h"
 #include "rules/training_screen.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tiles.h"
 #include "tests/support/script.h"
 

@@ -3,10 +3,10 @@
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "shell/board_view.h"
 #include "shell/long_message.h"
 #include "shell/pacing.h"
-#include "shell/palette.h"
 #include "shell/screen_lock.h"
 #include "tests/support/script.h"
 

@@ -3,10 +3,10 @@
 
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "shell/board_view.h"
 #include "shell/describe.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/places.h"
 #include "tests/support/script.h"
 

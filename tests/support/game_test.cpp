@@ -13,9 +13,9 @@
 #include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "platform/random.h"
 #include "shell/layout.h"
-#include "shell/palette.h"
 #include "shell/tile_set.h"
 #include "tests/support/reset.h"
 
