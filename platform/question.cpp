@@ -99,7 +99,7 @@ int answerOfKey(Question& q, const KeyPress& key) {
 
 // A click answers when it goes down and up on the same button.
 int answerOfMouse(Question& q, const MouseState& mouse) {
-    const bool down = inputQueue().handedDown;  // also while the pointer is outside: leaving is no release
+    const bool down = buttonIsHeld();
     if (down == q.held) return open;
     q.held = down;
     const int under = mouse.status == 0 ? answerAt(q, mouse.x, mouse.y) : open;
@@ -127,7 +127,7 @@ bool askYesNo(const std::string& text, const std::string& caption) {
     const Image before = screen();
     resetClip();
     forgetEarlierInput();
-    q.held = inputQueue().handedDown;
+    q.held = buttonIsHeld();
     drawQuestion(q);
     const int answer = askUntilAnswered(q);
     screen() = before;

@@ -21,8 +21,6 @@ namespace {
 Button pressedButtonCopy;
 bool ignoreHold = false;  // the button is still down from another screen, or from before the pointer left
 
-bool buttonIsHeld() { return inputQueue().handedDown; }
-
 void endHover(int gridWidget) {
     widget(gridWidget).hoverCol = -1;
     clearInfoArea();
