@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/button_face.h"
 #include "platform/clock.h"
 #include "platform/draw.h"
 #include "platform/font.h"
@@ -61,12 +62,14 @@ int answerAt(const Question& q, int x, int y) {
 void drawAnswer(const Question& q, int answer) {
     const Rect r = buttonAt(q, answer);
     const std::string text = answers[static_cast<std::size_t>(answer)];
-    const bool marked = q.marked == answer;
-    drawBox(r.x1, r.y1, r.x2 + 1, r.y2 + 1, colour::black);
-    fillBox(r.x1, r.y1, r.x2, r.y2, q.pressed == answer ? colour::pressedFace : colour::face);
-    drawBox(r.x1, r.y1, r.x2, r.y2, marked ? colour::yellow : colour::edge);
-    const int x = roundedRatio(r.x1 + r.x2 + 1 - widthOf(text) + 2, 2);
-    drawText(x, r.y1 + (buttonHeight - glyphSize) / 2 + 1, text, marked ? colour::yellow : colour::edge);
+    const Colour ink = q.marked == answer ? colour::yellow : colour::edge;
+    drawButtonFace({.box = r,
+                    .face = q.pressed == answer ? colour::pressedFace : colour::face,
+                    .outline = ink,
+                    .ink = ink,
+                    .caption = text,
+                    .captionPlace = {roundedRatio(r.x1 + r.x2 + 1 - widthOf(text) + 2, 2),
+                                     r.y1 + (buttonHeight - glyphSize) / 2 + 1}});
 }
 
 void drawQuestion(const Question& q) {

@@ -1,5 +1,6 @@
 #include "shell/hit_test.h"
 
+#include "platform/button_face.h"
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/palette.h"
@@ -33,10 +34,12 @@ Point cornerOf(const Button& b, int col, int row) {
 
 void drawPressed(const Button& b, Point corner) {
     if (b.kind == WidgetKind::tileGrid) return putTile(tile::glow, corner, putBlended(pressAlpha));
-    fillBox(corner.x + 1, corner.y + 1, corner.x + b.cellWidth - 1, corner.y + b.cellHeight - 1,
-            colour::pressedFace);
-    const Point at = captionPlace(b);
-    drawText(at.x, at.y, b.caption, colour::pressedCaption);
+    redrawButtonInside({.box = {corner.x, corner.y, corner.x + b.cellWidth, corner.y + b.cellHeight},
+                        .face = colour::pressedFace,
+                        .outline = colour::edge,
+                        .ink = colour::pressedCaption,
+                        .caption = b.caption,
+                        .captionPlace = captionPlace(b)});
 }
 
 void restoreHoverCell(const Button& b) {
