@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/image.h"
+#include "platform/draw.h"
 
 namespace gloomdeck {
 

@@ -5,9 +5,9 @@
 
 #include "help/help_texts.h"
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "platform/table.h"
 #include "rules/catalogue.h"
-#include "shell/palette.h"
 #include "shell/play/describe.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/tile_set.h"

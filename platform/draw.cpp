@@ -72,6 +72,14 @@ void drawGlyph(int x, int y, const Glyph& glyph, Colour colour) {
                 rowAt(row)[column] = colour;
 }
 
+void putRows(const PixelRows& rows, PutMode mode) {
+    switch (mode.kind) {
+        case PutMode::Kind::copy: return copyRows(rows);
+        case PutMode::Kind::transparent: return copyRowsTransparent(rows);
+        case PutMode::Kind::blend: return blendRows(rows, mode.alpha);
+    }
+}
+
 }  // namespace
 
 void setDefaultColours(Colour text, Colour background) {
@@ -125,5 +133,12 @@ void drawText(int x, int y, std::string_view text, Colour colour) {
 }
 
 void drawText(int x, int y, std::string_view text) { drawText(x, y, text, textColour); }
+
+void putImage(int x, int y, const Image& image, PutMode mode) {
+    const Rect part = intersection({x, y, x + image.width - 1, y + image.height - 1}, clipRect());
+    if (isEmpty(part)) return;
+    putRows(rowsOf(screen(), part, image, {x, y}), mode);
+    frameChanged({part.y1, part.y2});
+}
 
 }  // namespace gloomdeck

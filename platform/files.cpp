@@ -20,11 +20,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t largestFile = std::size_t{64} << 20;
 
-// What a FilesTogether holds.
-std::vector<std::string> together;
-std::vector<NewContents> closedTogether;
-bool togetherIsClear = true;
-
 // A link is followed, so that the file itself is replaced.
 std::string resolved(const std::string& path) {
     std::error_code error;
@@ -33,10 +28,10 @@ std::string resolved(const std::string& path) {
 }
 
 // Where the contents of a file stand that is named so.
-std::string standing(const std::string& name) {
-    const auto found = std::find(together.begin(), together.end(), name);
-    if (found == together.end()) return name;
-    return standingName(together, static_cast<std::size_t>(found - together.begin()));
+std::string standing(const FilesTogether& together, const std::string& name) {
+    const auto found = std::find(together.names.begin(), together.names.end(), name);
+    if (found == together.names.end()) return name;
+    return standingName(together.names, static_cast<std::size_t>(found - together.names.begin()));
 }
 
 // Also where it cannot be told.
@@ -60,8 +55,17 @@ std::optional<Bytes> wholeFile(const std::string& name) {
     }
 }
 
-bool isOutOfReach(const std::string& name) {
-    return !togetherIsClear && std::find(together.begin(), together.end(), name) != together.end();
+// The file of that name, with the contents that stand at the place; not open where there can be none of that
+// name, and none where there is one that cannot be read.
+std::optional<File> opened(const std::string& name, const std::string& place) {
+    if (isPlainFile(place)) {
+        std::optional<Bytes> contents = wholeFile(place);
+        if (!contents) return {};
+        return File{.path = name, .contents = std::move(*contents)};
+    }
+    std::error_code error;
+    if (fs::exists(name, error) || !fs::is_directory(fs::path(name).parent_path(), error)) return File{};
+    return File{.path = name, .contents = {}, .changed = true};
 }
 
 }  // namespace
@@ -75,7 +79,7 @@ std::string nativePath(std::string path) {
     return path;
 }
 
-bool fileExists(const std::string& path) { return isPlainFile(standing(resolved(path))); }
+bool fileExists(const std::string& path) { return isPlainFile(resolved(path)); }
 
 std::optional<Bytes> fileContents(const std::string& path) {
     const std::string name = nativePath(path);
@@ -84,18 +88,7 @@ std::optional<Bytes> fileContents(const std::string& path) {
 
 File openFile(const std::string& path) {
     const std::string name = resolved(path);
-    if (isOutOfReach(name)) return {};
-    if (const std::string place = standing(name); isPlainFile(place)) {
-        std::optional<Bytes> contents = wholeFile(place);
-        if (!contents) {
-            togetherIsClear = together.empty();
-            return {};
-        }
-        return {.path = name, .contents = std::move(*contents)};
-    }
-    std::error_code error;
-    if (fs::exists(name, error) || !fs::is_directory(fs::path(name).parent_path(), error)) return {};
-    return {.path = name, .contents = {}, .changed = true};
+    return opened(name, name).value_or(File{});
 }
 
 bool isOpen(const File& file) { return !file.path.empty(); }
@@ -118,26 +111,37 @@ std::size_t writeBytes(File& file, const void* buffer, std::size_t count) {
 }
 
 void closeFile(File& file) {
-    if (file.changed && together.empty())
-        writeTogether({{.name = file.path, .contents = file.contents}});
-    else if (file.changed)
-        closedTogether.push_back({.name = file.path, .contents = file.contents});
+    if (file.changed) writeTogether({{.name = file.path, .contents = file.contents}});
     file = {};
 }
 
 FilesTogether::FilesTogether(const std::vector<std::string>& paths)
-    : lock(fs::path(nativePath(paths.at(0))).parent_path().string()) {
-    for (const std::string& path : paths) together.push_back(resolved(path));
-    togetherIsClear = settleFiles(together);
+    : lock(fs::path(nativePath(paths.at(0))).parent_path().string()), names(paths.size()) {
+    std::transform(paths.begin(), paths.end(), names.begin(), resolved);
+    clear = settleFiles(names);
     // What settling has put in its place can be resolved only now.
-    std::transform(paths.begin(), paths.end(), together.begin(), resolved);
+    std::transform(paths.begin(), paths.end(), names.begin(), resolved);
 }
 
-FilesTogether::~FilesTogether() {
-    if (togetherIsClear && !closedTogether.empty()) writeTogether(closedTogether);
-    closedTogether.clear();
-    together.clear();
-    togetherIsClear = true;
+bool fileExists(const FilesTogether& together, const std::string& path) {
+    return isPlainFile(standing(together, resolved(path)));
+}
+
+File openFile(FilesTogether& together, const std::string& path) {
+    if (!together.clear) return {};
+    const std::string name = resolved(path);
+    std::optional<File> file = opened(name, standing(together, name));
+    together.clear = file.has_value();
+    return std::move(file).value_or(File{});
+}
+
+void closeTogether(const FilesTogether& together, std::span<File> files) {
+    std::vector<NewContents> written;
+    for (File& file : files) {
+        if (file.changed) written.push_back({.name = file.path, .contents = std::move(file.contents)});
+        file = {};
+    }
+    if (together.clear && !written.empty()) writeTogether(written);
 }
 
 }  // namespace gloomdeck

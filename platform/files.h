@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -47,17 +48,25 @@ std::size_t writeBytes(File& file, const void* buffer, std::size_t count);
 /// old file and reports nothing.
 void closeFile(File& file);
 
-/// For as long as it lives, these files of one folder are one: what a cut has left half done is finished
-/// first, another copy of the program waits that does the same, and what is closed goes to the disk together
-/// at the end. Where one cannot be read, or it cannot be told what a cut has left, none is written. One at a
-/// time.
+// The same for files of one folder of which a cut must leave all old or all new.
+
+/// For as long as it lives, another copy of the program waits that does the same. What a cut has left half
+/// done is finished first.
 struct FilesTogether {
     explicit FilesTogether(const std::vector<std::string>& paths);
-    ~FilesTogether();
-    FilesTogether(const FilesTogether&) = delete;
-    FilesTogether& operator=(const FilesTogether&) = delete;
 
     FolderLock lock;
+    std::vector<std::string> names;  ///< as the system writes them, in the order of the paths
+    bool clear = true;               ///< it can be told what stands, and what was opened could be read
 };
+
+bool fileExists(const FilesTogether& together, const std::string& path);
+
+/// Opens one of them; none any more once they are not clear.
+File openFile(FilesTogether& together, const std::string& path);
+
+/// Brings what was written to these files to the disk as one, in the order of the paths; writes none where
+/// they are not clear.
+void closeTogether(const FilesTogether& together, std::span<File> files);
 
 }  // namespace gloomdeck

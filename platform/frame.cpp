@@ -41,7 +41,7 @@ void unlockScreen() {
     showFrameWhenDue();
 }
 
-void waitForVerticalRetrace() { host::waitForRetrace(); }
+void waitForVerticalRetrace() {}
 
 void setClip(int x1, int y1, int x2, int y2) { clip = intersection(spanning(x1, y1, x2, y2), wholeFrame()); }
 

@@ -21,7 +21,7 @@ void setWindowTitle(const std::string& text);
 void lockScreen();
 void unlockScreen();
 
-/// Returns at the next vertical blank, or at once where none is known or worth waiting for.
+/// Returns at the next vertical blank, or at once where no display tells of one; none does so far.
 void waitForVerticalRetrace();
 
 /// From now on drawing changes only pixels inside the rectangle (corners included, in any order).

@@ -25,9 +25,6 @@ void present(const Colour* pixels, Rows changed);
 /// Seconds between two pictures of the display: no present is made sooner after the last.
 double framePeriod();
 
-/// Waits for the display's next vertical blank where one is known and worth waiting for.
-void waitForRetrace();
-
 /// Moves what has arrived (pointer, button, keys, close request, signals) into the queue, repaints what was
 /// uncovered, and returns at once.
 void pump(InputQueue& queue);

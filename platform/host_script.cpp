@@ -78,8 +78,6 @@ void present(const Colour* pixels, Rows changed) {
 
 double framePeriod() { return state.framePeriod; }
 
-void waitForRetrace() {}
-
 void pump(InputQueue& queue) {
     state.queue = &queue;
     feed(state.polling);

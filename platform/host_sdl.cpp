@@ -105,9 +105,6 @@ void present(const Colour* pixels, Rows changed) { showFrame(pixels, changed); }
 
 double framePeriod() { return displayPeriod(); }
 
-// Nothing here knows the retrace, and pictures are never waited for.
-void waitForRetrace() {}
-
 void pump(InputQueue& queue) {
     if (takeWindowEvents(queue) || endSignalled) noteEnd(queue);
     if (endSeenAt <= 0 || seconds() - endSeenAt < patience) return;

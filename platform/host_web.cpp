@@ -111,9 +111,6 @@ void present(const Colour* pixels, Rows changed) {
 
 double framePeriod() { return period; }
 
-// The browser shows what was painted at its own next picture.
-void waitForRetrace() {}
-
 void pump(InputQueue& queue) {
     breatheWhenDue();
     Event event;

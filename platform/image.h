@@ -1,9 +1,11 @@
-// Images, and the three ways to put them on the frame.
+// Images: blocks of pixels, and cutting one out of another.
 #pragma once
 
 #include <vector>
 
 #include "platform/colour.h"
+#include "platform/geometry.h"
+#include "platform/kernels.h"
 
 namespace gloomdeck {
 
@@ -12,16 +14,6 @@ struct Image {
     int height = 0;
     std::vector<Colour> pixels;  ///< rows top to bottom
 };
-
-/// How putImage mixes; alpha (0 to 255) counts for blend alone.
-struct PutMode {
-    enum class Kind { copy, transparent, blend } kind = Kind::copy;
-    int alpha = 255;
-};
-
-inline constexpr PutMode putCopy{PutMode::Kind::copy};
-inline constexpr PutMode putTransparent{PutMode::Kind::transparent};
-constexpr PutMode putBlended(int alpha) { return {PutMode::Kind::blend, alpha}; }
 
 /// A new image filled with the transparent colour; a size below 1 gives an empty image.
 Image createImage(int width, int height);
@@ -33,7 +25,17 @@ void destroyImage(Image& image);
 /// own width and height. What lies outside the source stays as it was in the destination.
 void getImage(const Image& source, int x1, int y1, int x2, int y2, Image& destination);
 
-/// Draws the whole image with its top left corner at (x, y), inside the clip.
-void putImage(int x, int y, const Image& image, PutMode mode);
+// For the drawing operations of this layer.
+
+/// A part of the destination, not empty, and what lies there of a source whose corner stands at that place;
+/// the part is inside both.
+inline PixelRows rowsOf(Image& destination, const Rect& part, const Image& source, Point corner) {
+    return {.to = destination.pixels.data() + part.y1 * destination.width + part.x1,
+            .toStep = destination.width,
+            .from = source.pixels.data() + (part.y1 - corner.y) * source.width + (part.x1 - corner.x),
+            .fromStep = source.width,
+            .width = part.x2 - part.x1 + 1,
+            .height = part.y2 - part.y1 + 1};
+}
 
 }  // namespace gloomdeck

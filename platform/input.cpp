@@ -39,9 +39,13 @@ bool keyWaiting() {
 
 bool programIsEnding() { return queue.ending; }
 
+bool buttonIsHeld() { return queue.handedDown; }
+
+void keepCloseRequest() { giveBackClose(queue); }
+
 bool keptCloseRequest(const std::string& key) {
     if (key != keycode::close) return false;
-    giveBackClose(queue);
+    keepCloseRequest();
     return true;
 }
 

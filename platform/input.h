@@ -22,7 +22,13 @@ bool keyWaiting();
 /// True once the system wants the program to end: no wait waits any more.
 bool programIsEnding();
 
-/// True when the key is the close request; it is then put back in front for the next loop that acts on it.
+/// True from a press that was handed out to its release, wherever the pointer is: leaving is no release.
+bool buttonIsHeld();
+
+/// Puts a close request that was read back in front, for the next loop that acts on it.
+void keepCloseRequest();
+
+/// True when the key is the close request; it is then kept.
 bool keptCloseRequest(const std::string& key);
 
 /// Throws away every key that waits; a close request stays.

@@ -3,24 +3,18 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/button_face.h"
 #include "platform/clock.h"
 #include "platform/draw.h"
 #include "platform/font.h"
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
 
 namespace gloomdeck {
 
 namespace {
-
-constexpr Colour panelColour = 0xFF2E473B;
-constexpr Colour captionColour = 0xFF708090;
-constexpr Colour faceColour = 0xFF696969;
-constexpr Colour pressedColour = 0xFF2F4F4F;
-constexpr Colour edgeColour = 0xFFFAEBD7;
-constexpr Colour markColour = 0xFFFFFF00;
-constexpr Colour shadowColour = 0xFF000000;
 
 constexpr int captionHeight = 14;
 constexpr int panelHeight = 84;
@@ -68,22 +62,24 @@ int answerAt(const Question& q, int x, int y) {
 void drawAnswer(const Question& q, int answer) {
     const Rect r = buttonAt(q, answer);
     const std::string text = answers[static_cast<std::size_t>(answer)];
-    const bool marked = q.marked == answer;
-    drawBox(r.x1, r.y1, r.x2 + 1, r.y2 + 1, shadowColour);
-    fillBox(r.x1, r.y1, r.x2, r.y2, q.pressed == answer ? pressedColour : faceColour);
-    drawBox(r.x1, r.y1, r.x2, r.y2, marked ? markColour : edgeColour);
-    const int x = roundedRatio(r.x1 + r.x2 + 1 - widthOf(text) + 2, 2);
-    drawText(x, r.y1 + (buttonHeight - glyphSize) / 2 + 1, text, marked ? markColour : edgeColour);
+    const Colour ink = q.marked == answer ? colour::yellow : colour::edge;
+    drawButtonFace({.box = r,
+                    .face = q.pressed == answer ? colour::pressedFace : colour::face,
+                    .outline = ink,
+                    .ink = ink,
+                    .caption = text,
+                    .captionPlace = {roundedRatio(r.x1 + r.x2 + 1 - widthOf(text) + 2, 2),
+                                     r.y1 + (buttonHeight - glyphSize) / 2 + 1}});
 }
 
 void drawQuestion(const Question& q) {
     const Rect& p = q.panel;
-    fillBox(p.x1, p.y1, p.x2, p.y2, panelColour);
-    fillBox(p.x1, p.y1, p.x2, p.y1 + captionHeight, captionColour);
-    drawBox(p.x1, p.y1, p.x2, p.y2, shadowColour);
-    drawBox(p.x1 + 1, p.y1 + 1, p.x2 - 1, p.y2 - 1, edgeColour);
-    drawText(p.x1 + 8, p.y1 + 5, q.caption, shadowColour);
-    drawText(std::max(p.x1 + 4, (p.x1 + p.x2 + 1 - widthOf(q.text)) / 2), p.y1 + 30, q.text, edgeColour);
+    fillBox(p.x1, p.y1, p.x2, p.y2, colour::panel);
+    fillBox(p.x1, p.y1, p.x2, p.y1 + captionHeight, colour::slate);
+    drawBox(p.x1, p.y1, p.x2, p.y2, colour::black);
+    drawBox(p.x1 + 1, p.y1 + 1, p.x2 - 1, p.y2 - 1, colour::edge);
+    drawText(p.x1 + 8, p.y1 + 5, q.caption, colour::black);
+    drawText(std::max(p.x1 + 4, (p.x1 + p.x2 + 1 - widthOf(q.text)) / 2), p.y1 + 30, q.text, colour::edge);
     for (const int answer : {yes, no}) drawAnswer(q, answer);
 }
 
@@ -106,7 +102,7 @@ int answerOfKey(Question& q, const KeyPress& key) {
 
 // A click answers when it goes down and up on the same button.
 int answerOfMouse(Question& q, const MouseState& mouse) {
-    const bool down = inputQueue().handedDown;  // also while the pointer is outside: leaving is no release
+    const bool down = buttonIsHeld();
     if (down == q.held) return open;
     q.held = down;
     const int under = mouse.status == 0 ? answerAt(q, mouse.x, mouse.y) : open;
@@ -134,7 +130,7 @@ bool askYesNo(const std::string& text, const std::string& caption) {
     const Image before = screen();
     resetClip();
     forgetEarlierInput();
-    q.held = inputQueue().handedDown;
+    q.held = buttonIsHeld();
     drawQuestion(q);
     const int answer = askUntilAnswered(q);
     screen() = before;

@@ -1,5 +1,6 @@
 #include "prefs/saved_data.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,20 +28,11 @@ bool filesAreUnreadable = false;  // an error of the disk perhaps: what they hol
 std::string dataFile(const char* base) { return programFolder() + "\\Data\\" + "D" + base; }
 
 template <typename Record>
-bool readRecord(const char* base, Record& record) {
+bool readRecord(FilesTogether& both, const char* base, Record& record) {
     record = {};
-    File file = openFile(dataFile(base));
-    const bool opened = isOpen(file);
+    File file = openFile(both, dataFile(base));
     readBytes(file, &record, sizeof record);
-    closeFile(file);
-    return opened;
-}
-
-template <typename Record>
-void writeRecord(const char* base, const Record& record) {
-    File file = openFile(dataFile(base));
-    writeBytes(file, &record, sizeof record);
-    closeFile(file);
+    return isOpen(file);
 }
 
 std::vector<std::string> bothFiles() { return {dataFile(gameBase), dataFile(prefsBase)}; }
@@ -48,18 +40,20 @@ std::vector<std::string> bothFiles() { return {dataFile(gameBase), dataFile(pref
 void save(const GameState& state, Prefs preferences) {
     if (filesAreUnreadable) return;
     preferences.reserved = 0;
-    const FilesTogether both(bothFiles());
-    writeRecord(gameBase, state);
-    writeRecord(prefsBase, preferences);
+    FilesTogether both(bothFiles());
+    std::array files{openFile(both, dataFile(gameBase)), openFile(both, dataFile(prefsBase))};
+    writeBytes(files[0], &state, sizeof state);
+    writeBytes(files[1], &preferences, sizeof preferences);
+    closeTogether(both, files);
 }
 
 }  // namespace
 
 int LoadSavedData() {
-    const FilesTogether both(bothFiles());
-    if (!fileExists(dataFile(gameBase)) || !fileExists(dataFile(prefsBase))) return 0;
+    FilesTogether both(bothFiles());
+    if (!fileExists(both, dataFile(gameBase)) || !fileExists(both, dataFile(prefsBase))) return 0;
     SafePoint saved;
-    filesAreUnreadable = !readRecord(gameBase, saved.game) || !readRecord(prefsBase, saved.prefs);
+    filesAreUnreadable = !readRecord(both, gameBase, saved.game) || !readRecord(both, prefsBase, saved.prefs);
     if (filesAreUnreadable) return 0;
     game = saved.game;
     prefs = saved.prefs;

@@ -5,7 +5,7 @@
 #include "content/campaigns.h"
 #include "content/scenarios.h"
 #include "platform/draw.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/panels.h"
 

@@ -3,10 +3,10 @@
 #include <string>
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
 #include "prefs/prefs.h"
 #include "prefs/switches.h"
-#include "shell/palette.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/panels.h"

@@ -1,11 +1,11 @@
 #include "rules/training/training_rows.h"
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
 #include "rules/hero.h"
 #include "rules/training.h"
-#include "shell/palette.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/tile_set.h"
 

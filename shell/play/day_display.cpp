@@ -4,9 +4,9 @@
 #include <string>
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/game_state.h"
 #include "rules/show.h"
-#include "shell/palette.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/tile_set.h"
 

@@ -1,5 +1,6 @@
 #include "shell/play/hover.h"
 
+#include "platform/draw.h"
 #include "platform/frame.h"
 #include "shell/play/describe.h"
 #include "shell/play/play_pieces.h"

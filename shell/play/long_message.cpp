@@ -1,8 +1,8 @@
 #include "shell/play/long_message.h"
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/show.h"
-#include "shell/palette.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"

@@ -1,7 +1,7 @@
 #include "shell/play/play_pieces.h"
 
 #include "platform/draw.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/screen_lock.h"

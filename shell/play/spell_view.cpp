@@ -1,10 +1,10 @@
 // What the spells and the bomb look like on the board. Times are milliseconds at the normal game speed.
 #include "platform/draw.h"
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "rules/board.h"
 #include "rules/dice.h"
 #include "rules/show.h"
-#include "shell/palette.h"
 #include "shell/play/cell_view.h"
 #include "shell/widgets/pacing.h"
 #include "shell/widgets/places.h"

@@ -1,8 +1,9 @@
 #include "shell/widgets/button.h"
 
+#include "platform/button_face.h"
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
-#include "shell/palette.h"
 
 namespace gloomdeck {
 
@@ -28,11 +29,13 @@ Point captionPlace(const Button& b) {
 }
 
 void drawButton(const Button& b) {
-    fillBox(b.x, b.y, b.x + b.width, b.y + b.height, colour::face);
-    drawBox(b.x, b.y, b.x + b.width + 1, b.y + b.height + 1, colour::black);
-    drawBox(b.x, b.y, b.x + b.width, b.y + b.height, colour::edge);
     const Point at = captionPlace(b);
-    drawText(at.x, at.y, b.caption, colour::edge);
+    drawButtonFace({.box = {b.x, b.y, b.x + b.width, b.y + b.height},
+                    .face = colour::face,
+                    .outline = colour::edge,
+                    .ink = colour::edge,
+                    .caption = b.caption,
+                    .captionPlace = at});
     if (b.hotkeyLetter) drawText(at.x, at.y, b.caption.substr(0, 1), colour::yellow);
 }
 

@@ -1,7 +1,7 @@
 #include "shell/widgets/hit_test.h"
 
-#include "platform/draw.h"
-#include "shell/palette.h"
+#include "platform/button_face.h"
+#include "platform/palette.h"
 #include "shell/widgets/tile_set.h"
 
 namespace gloomdeck {
@@ -22,10 +22,12 @@ bool isInPressedCell(const Button& b, int px, int py) {
 void drawPressed(const Button& b) {
     const Point corner = cellCorner(b, b.pressCol, b.pressRow);
     if (b.kind == WidgetKind::tileGrid) return putTile(tile::glow, corner, putBlended(pressAlpha));
-    fillBox(corner.x + 1, corner.y + 1, corner.x + b.cellWidth - 1, corner.y + b.cellHeight - 1,
-            colour::pressedFace);
-    const Point at = captionPlace(b);
-    drawText(at.x, at.y, b.caption, colour::pressedCaption);
+    redrawButtonInside({.box = {corner.x, corner.y, corner.x + b.cellWidth, corner.y + b.cellHeight},
+                        .face = colour::pressedFace,
+                        .outline = colour::edge,
+                        .ink = colour::pressedCaption,
+                        .caption = b.caption,
+                        .captionPlace = captionPlace(b)});
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "platform/draw.h"
+#include "platform/button_face.h"
 #include "platform/font.h"
+#include "platform/palette.h"
 #include "platform/rounding.h"
-#include "shell/palette.h"
 #include "shell/widgets/layout.h"
 
 namespace gloomdeck {
@@ -18,15 +18,15 @@ constexpr int letterHeight = 6;  // that an item's text is centred by
 void drawMenuItem(const Button& menu, int col, int row, std::string_view text, bool isSelected) {
     const int x = menu.x + menu.cellWidth * col;
     const int y = menu.y + menu.cellHeight * row;
-    const int right = x + menu.cellWidth;
-    const int bottom = y + menu.cellHeight;
-    fillBox(x, y, right, bottom, isSelected ? colour::edge : colour::face);
-    drawBox(x, y, right + 1, bottom + 1, colour::black);
-    drawBox(x, y, right, bottom, colour::edge);
     const int length = static_cast<int>(text.size());
     const int textX = roundedRatio(2 * x + menu.cellWidth - length * glyphSize, 2);
     const int textY = roundedRatio(2 * y + menu.cellHeight - letterHeight, 2);
-    drawText(textX, textY, text, isSelected ? colour::face : colour::edge);
+    drawButtonFace({.box = {x, y, x + menu.cellWidth, y + menu.cellHeight},
+                    .face = isSelected ? colour::edge : colour::face,
+                    .outline = colour::edge,
+                    .ink = isSelected ? colour::face : colour::edge,
+                    .caption = text,
+                    .captionPlace = {textX, textY}});
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "platform/draw.h"
+#include "platform/palette.h"
 #include "rules/show.h"
-#include "shell/palette.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/text.h"

@@ -65,7 +65,7 @@ void speedDown(int announce) {
 }
 
 void waitForAck(const std::string& key) {
-    if (waitNotingClose(key)) giveBackClose(inputQueue());
+    if (waitNotingClose(key)) keepCloseRequest();
 }
 
 }  // namespace gloomdeck

@@ -4,7 +4,7 @@
 
 #include "platform/draw.h"
 #include "platform/font.h"
-#include "shell/palette.h"
+#include "platform/palette.h"
 #include "shell/widgets/places.h"
 #include "shell/widgets/screen_lock.h"
 #include "shell/widgets/text.h"

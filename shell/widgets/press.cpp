@@ -11,8 +11,6 @@ namespace {
 
 bool ignored = false;
 
-bool buttonIsHeld() { return inputQueue().handedDown; }
-
 }  // namespace
 
 void restartPress() {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/geometry.h"
-#include "platform/image.h"
+#include "platform/draw.h"
 #include "rules/tiles.h"
 
 namespace gloomdeck {

@@ -7,7 +7,6 @@
 
 #include "platform/font.h"
 #include "platform/frame.h"
-#include "platform/image.h"
 #include "platform/kernels.h"
 #include "tests/support/game_test.h"
 

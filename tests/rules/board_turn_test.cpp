@@ -4,10 +4,10 @@
 #include <limits>
 
 #include "platform/frame.h"
+#include "platform/palette.h"
 #include "prefs/score.h"
 #include "rules/hero.h"
 #include "rules/show.h"
-#include "shell/palette.h"
 #include "shell/widgets/places.h"
 #include "tests/rules/rule_test.h"
 
