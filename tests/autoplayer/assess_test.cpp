@@ -114,7 +114,9 @@ int scoreOf(const std::array<int, rowCount>& fromBottom) {
 
 }  // namespace
 
-class AssessTest : public AutoplayerTest, public ::testing::WithParamInterface<Case> {};
+using ThoughtTest = RulesTest;
+
+class AssessTest : public RulesTest, public ::testing::WithParamInterface<Case> {};
 
 TEST_P(AssessTest, DecidesTheChoice) {
     const Case& c = GetParam();
@@ -138,7 +140,7 @@ TEST_P(AssessTest, DecidesTheChoice) {
 INSTANTIATE_TEST_SUITE_P(Rules, AssessTest, ::testing::ValuesIn(cases),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST_F(AutoplayerTest, WhatCannotBeMetIsUnavailable) {
+TEST_F(ThoughtTest, WhatCannotBeMetIsUnavailable) {
     for (const int col : {1, 2, 4}) fillColumn(col, Chest);
     column(1).finished = 1;
     column(2).drawn = 55;  // The End lies in row 2
@@ -155,7 +157,7 @@ TEST_F(AutoplayerTest, WhatCannotBeMetIsUnavailable) {
     EXPECT_EQ(assessNow().at(4, 6).value, 9);
 }
 
-TEST_F(AutoplayerTest, GoodStuffIsLeftAloneWhileAPowerIsWastedOnIt) {
+TEST_F(ThoughtTest, GoodStuffIsLeftAloneWhileAPowerIsWastedOnIt) {
     for (const int power : {magicSight, stasis, deflection}) {
         turnsLeft(power) = 1;
         allow(allOn - easyOn);
@@ -166,7 +168,7 @@ TEST_F(AutoplayerTest, GoodStuffIsLeftAloneWhileAPowerIsWastedOnIt) {
     }
 }
 
-TEST_F(AutoplayerTest, DamageIsReducedByDeflectionThenByToughnessAndTwiceIfExpected) {
+TEST_F(ThoughtTest, DamageIsReducedByDeflectionThenByToughnessAndTwiceIfExpected) {
     const std::array<int, 4> shields[] = {{0, 0, -4, 0},   {0, 0, 1, 1},  {0, 1, 4, 1},
                                           {0, 1, 5, 2},    {5, 0, 1, 0},  {15, 0, 60, 58},
                                           {15, 0, 61, 60}, {25, 2, 5, 0}, {25, 2, 20, 4}};
@@ -178,7 +180,7 @@ TEST_F(AutoplayerTest, DamageIsReducedByDeflectionThenByToughnessAndTwiceIfExpec
     EXPECT_EQ(ExpectedDamage(monster::hypnoEye), 2) << "50 to 17 to 14, then to 5 and to 2";
 }
 
-TEST_F(AutoplayerTest, AGhostIsTrappedByWallsAndPerhapsByWhatIsHidden) {
+TEST_F(ThoughtTest, AGhostIsTrappedByWallsAndPerhapsByWhatIsHidden) {
     for (int col = 0; col < columnCount; ++col) fillColumn(col, Door);
     const std::array<int, 5> neighbours[] = {
         {Door, Door, Door, Door, 1},    {Fruit, Door, Door, Door, 0}, {Door, Fruit, Door, Door, 0},
@@ -198,7 +200,7 @@ TEST_F(AutoplayerTest, AGhostIsTrappedByWallsAndPerhapsByWhatIsHidden) {
     EXPECT_EQ(TrapState(3, 3), 0) << "a cell past the end counts as open";
 }
 
-TEST_F(AutoplayerTest, TheLookAheadFadesWithDistanceAndTheBottomTileDecidesTheSign) {
+TEST_F(ThoughtTest, TheLookAheadFadesWithDistanceAndTheBottomTileDecidesTheSign) {
     EXPECT_EQ(scoreOf({6, 9, -9, 3, 3, 3, 3}), 56);
     EXPECT_EQ(scoreOf({-9, 6, 6, 6, 6, 6, 6}), -42);
     EXPECT_EQ(scoreOf({1, 20, 20, 20, 20, 20, 20}), 7 + 40 + 38 + 18 + 17 + 16 + 15);
@@ -212,7 +214,7 @@ TEST_F(AutoplayerTest, TheLookAheadFadesWithDistanceAndTheBottomTileDecidesTheSi
     EXPECT_EQ(scoreOf({0, 20, 20, 20, 20, 20, 20}), 0) << "above The End nothing counts";
 }
 
-TEST_F(AutoplayerTest, OfTheBestColumnsTheLeftmostIsChosen) {
+TEST_F(ThoughtTest, OfTheBestColumnsTheLeftmostIsChosen) {
     allow(goodOn + hardOn);
     board(2, 6) = board(5, 6) = Gold;
     EXPECT_EQ(chooseColumn(assessNow()), 2);

@@ -1,10 +1,13 @@
 // Whole games, and one number that tells whether any of them has changed.
 #include <bit>
 
+#include "autoplayer/autoplayer.h"
 #include "content/game_flow.h"
 #include "content/scenarios.h"
 #include "platform/frame.h"
+#include "platform/input.h"
 #include "tests/autoplayer/autoplayer_test.h"
+#include "tests/support/game_test.h"
 #include "tests/support/invariants.h"
 
 namespace gloomdeck {
@@ -15,10 +18,10 @@ constexpr int longestRun = 3000;  // turns; a Ghost between two free cells can b
 
 }  // namespace
 
-class AutoplayerGames : public AutoplayerTest {
+class AutoplayerGames : public GameTest {
   protected:
     void SetUp() override {
-        AutoplayerTest::SetUp();
+        GameTest::SetUp();
         resetFrame();  // without a frame to draw on the same games go faster
         prefs.campaignChoice = none;
         script::feedAtPoll([](InputQueue& queue) {

@@ -1,10 +1,25 @@
 // Runs: what stops them, what is spent on grief, and what every move takes with it.
+#include "autoplayer/autoplayer.h"
+#include "platform/input.h"
 #include "rules/show.h"
 #include "shell/widgets/mouse.h"
 #include "shell/widgets/press.h"
 #include "tests/autoplayer/autoplayer_test.h"
+#include "tests/support/game_test.h"
 
 namespace gloomdeck {
+
+class AutoplayerTest : public GameTest {
+  protected:
+    /// Runs with these keys waiting.
+    static int movesPlayed(std::initializer_list<std::string_view> keys = {}) {
+        seedRolls(1);
+        for (const auto key : keys) keyTyped(inputQueue(), key);
+        const int before = game.turns;
+        RunAutoplayer();
+        return game.turns - before;
+    }
+};
 
 TEST_F(AutoplayerTest, ReadsAKeyAMoveAndThoseThatStopLetItBePlayed) {
     count(bombs) = count(lightningBolts) = 1;

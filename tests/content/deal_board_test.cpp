@@ -1,7 +1,7 @@
 #include "content/deal_board.h"
 
 #include "content/scenarios.h"
-#include "tests/support/game_test.h"
+#include "tests/support/rules_test.h"
 
 namespace gloomdeck {
 
@@ -14,7 +14,7 @@ void draws(int sides, std::initializer_list<int> values, int times = 1) {
 
 }  // namespace
 
-using DealTest = GameTest;
+using DealTest = RulesTest;
 
 TEST_F(DealTest, AllShuffleDrawsComeBeforeTheColumnsWhichAreDealtInTheScenariosOrder) {
     prefs.scenarioOver = 1;

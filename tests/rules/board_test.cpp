@@ -5,7 +5,7 @@
 
 #include "platform/random.h"
 #include "rules/dice.h"
-#include "tests/support/game_test.h"
+#include "tests/support/rules_test.h"
 
 namespace gloomdeck {
 
@@ -17,7 +17,7 @@ constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace
 
-using BoardTest = GameTest;
+using BoardTest = RulesTest;
 
 TEST_F(BoardTest, ARollSpansOneToNAndRollingNothingDrawsNothing) {
     EXPECT_EQ(Roll(0), 0);

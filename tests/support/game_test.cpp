@@ -2,10 +2,8 @@
 
 #include <unistd.h>
 
-#include <deque>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <set>
 
 #include "art/picture_files.h"
@@ -14,7 +12,6 @@
 #include "platform/frame.h"
 #include "platform/input.h"
 #include "platform/palette.h"
-#include "platform/random.h"
 #include "shell/play_screen.h"
 #include "shell/widgets/layout.h"
 #include "shell/widgets/tile_set.h"
@@ -23,21 +20,6 @@
 namespace gloomdeck {
 
 namespace {
-
-constexpr int dungeon = 3;
-std::deque<FedRoll> fed;
-int missing = 0;
-std::mt19937_64 stream;
-
-double nextFed() {
-    constexpr int mostMissing = 10000;
-    if (fed.empty() && ++missing > mostMissing)
-        throw std::runtime_error("a loop waits for a roll that nobody feeds");
-    if (fed.empty()) return 0.0;
-    const FedRoll roll = fed.front();
-    fed.pop_front();
-    return (roll.value - 0.5) / roll.sides;
-}
 
 Colour flatPixel(int number, int x, int y) {
     static const std::set<int> opaque{tile::cellar, tile::ruins,        tile::portal,
@@ -71,18 +53,6 @@ std::string programFolder() {
 
 }  // namespace
 
-void rolls(const std::vector<FedRoll>& list) {
-    fed.insert(fed.end(), list.begin(), list.end());
-    useRandomSource(nextFed);
-}
-
-void seedRolls(std::uint64_t seed) {
-    stream.seed(seed);
-    useRandomSource([] { return static_cast<double>(stream() >> 11) * 0x1.0p-53; });
-}
-
-int leftoverRolls() { return static_cast<int>(fed.size()); }
-
 Colour flatColour(int tileNumber) {
     const auto n = static_cast<Colour>(tileNumber);
     return 0xFF000000 | (40 + n) << 16 | (n * 37 % 200 + 20) << 8 | (n * 91 % 180 + 10);
@@ -99,19 +69,7 @@ void removeProgramFolders() { std::filesystem::remove_all(programFolder()); }
 
 void resetProgram() {
     forgetProgram();
-    useRandomSource(nullptr);
-    fed.clear();
-    missing = 0;
-}
-
-void fillBoard(int code) {
-    for (int i = 0; i < columnCount * rowCount; ++i) cell(i % columnCount, i / columnCount) = code;
-}
-
-void makeEmptyBoard() {
-    for (int col = 0; col < columnCount; ++col) column(col) = {dungeon, 0, {}, 0, 0};
-    fillBoard(enc::Empty);
-    game.campaign = none;
+    forgetRolls();
 }
 
 void GameTest::SetUp() {
@@ -121,19 +79,16 @@ void GameTest::SetUp() {
         return tileImages;
     }();
     resetProgram();
+    RulesTest::SetUp();
     openWindow(frameWidth, frameHeight);
     setDefaultColours(colour::text, colour::panel);
     tileImages = flatTiles;
     cellBackup = createImage(tile::size, tile::size);
-    makeEmptyBoard();
-    prefs.GameSpeed = speedCount - 1;
     enterScreen(playScreen);
-    rolls({});
 }
 
 void GameTest::TearDown() {
-    EXPECT_EQ(leftoverRolls(), 0) << "fed rolls that nobody drew";
-    EXPECT_EQ(missing, 0) << "draws beyond the fed rolls";
+    RulesTest::TearDown();
     EXPECT_EQ(ui.lockDepth, 0) << "the screen is still locked";
     resetProgram();
     removeProgramFolders();
