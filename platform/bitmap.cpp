@@ -72,7 +72,7 @@ std::string_view decodeBitmap(const Bytes& file, Image& target) {
 
 void loadBitmap(const std::string& path, Image& target) {
     const std::string_view fault = copyFile(path, target);
-    if (!fault.empty()) return host::tell("the picture " + nativePath(path) + " " + std::string(fault));
+    if (!fault.empty()) return host::warn("the picture " + nativePath(path) + " " + std::string(fault));
     if (&target == &screen()) frameChanged();
 }
 

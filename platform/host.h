@@ -47,7 +47,7 @@ std::string programFolder();
 void onLost(void (*save)());
 
 /// Tells one line to whoever started the program: on standard error, or on the browser's console.
-void tell(const std::string& line);
+void warn(const std::string& line);
 
 /// Closes the window and ends the program.
 [[noreturn]] void end(int exitCode);

@@ -22,7 +22,7 @@ struct ScriptHost {
     std::string folder = ".";
     std::string title;
     std::vector<Colour> shown;
-    std::vector<std::string> told;
+    std::vector<std::string> warnings;
     script::Feeder idle;
     script::Feeder pausing;
     script::Feeder polling;
@@ -49,7 +49,7 @@ long presentCount() { return state.presents; }
 
 Rows takePresentedRows() { return std::exchange(state.presented, Rows{}); }
 const std::string& windowTitle() { return state.title; }
-const std::vector<std::string>& toldLines() { return state.told; }
+const std::vector<std::string>& warnings() { return state.warnings; }
 long sleptMilliseconds() { return state.slept; }
 void loseWindow() {
     if (state.save) state.save();
@@ -104,7 +104,7 @@ std::string programFolder() { return state.folder; }
 
 void onLost(void (*save)()) { state.save = save; }
 
-void tell(const std::string& line) { state.told.push_back(line); }
+void warn(const std::string& line) { state.warnings.push_back(line); }
 
 void end(int exitCode) { throw script::ProgramEnded{exitCode}; }
 

@@ -52,7 +52,7 @@ const std::string& windowTitle();
 Rows takePresentedRows();
 
 /// What a desktop would have on standard error.
-const std::vector<std::string>& toldLines();
+const std::vector<std::string>& warnings();
 
 /// Milliseconds that animations have paused.
 long sleptMilliseconds();

@@ -92,7 +92,7 @@ void open(int width, int height) {
     programFolder();  // made before the handler below, it is still there when that saves
     std::atexit(noteProcessExit);
     if (openDesktopWindow({width, height}, lastTitle)) return;
-    tell("there is no display to open a window on; start it on a desktop");
+    warn("there is no display to open a window on; start it on a desktop");
     end(EXIT_FAILURE);
 }
 
@@ -137,7 +137,7 @@ std::string programFolder() {
 
 void onLost(void (*save)()) { saveWhenLost = save; }
 
-void tell(const std::string& line) { std::fprintf(stderr, "gloomdeck: %s\n", line.c_str()); }
+void warn(const std::string& line) { std::fprintf(stderr, "gloomdeck: %s\n", line.c_str()); }
 
 void end(int exitCode) {
     ending = Ending::closing;

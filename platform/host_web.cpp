@@ -20,7 +20,7 @@ void gloomdeckAwaitInput(double milliseconds);
 void gloomdeckBreathe();
 void gloomdeckRest();
 void gloomdeckKeepFiles();
-void gloomdeckTell(const char* line);
+void gloomdeckWarn(const char* line);
 void gloomdeckEnded();
 void gloomdeckLeave();
 }
@@ -135,7 +135,7 @@ std::string programFolder() { return "/gloomdeck"; }
 
 void onLost(void (*save)()) { saveWhenLost = save; }
 
-void tell(const std::string& line) { gloomdeckTell(line.c_str()); }
+void warn(const std::string& line) { gloomdeckWarn(line.c_str()); }
 
 void end(int /*exitCode*/) {
     gloomdeckKeepFiles();

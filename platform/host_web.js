@@ -278,7 +278,7 @@ mergeInto(LibraryManager.library, {
     document.title = UTF8ToString(title);
   },
 
-  gloomdeckTell: function(line) {
+  gloomdeckWarn: function(line) {
     console.error(UTF8ToString(line));
   },
 

@@ -134,19 +134,4 @@ TEST_F(AutoplayerTest, SpendsWeaponsOnGriefBeforeItIsMetAndSweepsWithThem) {
     EXPECT_EQ(movesPlayed(), 0) << "no sweep without grief";
 }
 
-TEST_F(AutoplayerTest, SpendsWeaponsOnTheEyeItself) {
-    allow(griefOn + spellsOn);
-    onlyColumns({2});
-    count(lightningBolts) = count(bombs) = 1;
-    level(lightningBoost) = 67;  // the eye is struck for certain
-    for (const int bombsLeft : {1, 0}) {
-        fillColumn(2, enc::Door);
-        board(2, 1) = enc::HypnoEye;
-        board(2, 6) = enc::Gold;
-        EXPECT_EQ(movesPlayed({keycode::space}), 1);
-        EXPECT_EQ((std::array{count(bombs), board(2, 1), board(2, 6)}),
-                  (std::array{bombsLeft, +enc::Empty, +enc::Gold}));
-    }
-}
-
 }  // namespace gloomdeck

@@ -1,4 +1,4 @@
-// New games, and campaigns: their stages, their story pages, and the hero who goes through them.
+// New games, and campaigns: their stages, their story pages, and damaged ones.
 #include <cstring>
 
 #include "content/campaign_flow.h"
@@ -13,17 +13,7 @@
 
 namespace gloomdeck {
 
-namespace {
-
-constexpr int backAndForth = 1;
 constexpr int most = 2147483647;
-
-void clearBoard() {
-    for (int col = 0; col < columnCount; ++col) column(col).finished = 1;
-    prefs.scenarioOver = 1;
-}
-
-}  // namespace
 
 using CampaignTest = GameTest;
 
@@ -66,7 +56,7 @@ TEST_F(CampaignTest, ANewGameStartsWithAFreshHeroAndLeavesWhatIsNotTheGames) {
 
 TEST_F(CampaignTest, AStageIsDealtBeforeItsStoryWhichEitherSwitchSkips) {
     seedRolls(3);
-    game.campaign = backAndForth;
+    game.campaign = 1;
     startScript(Script().check([] { EXPECT_NE(board(6, bottomRow), enc::Empty); }).key(" "));
     startCampaignStage();
     finishScript();
@@ -82,29 +72,13 @@ TEST_F(CampaignTest, RandomStagesAskForADifficulty) {
     for (const int other : {-25, -most}) EXPECT_EQ(difficultyWanted(other), 1);
 }
 
-TEST_F(CampaignTest, TheHeroGoesOnToTheNextStageAndTheContinueButtonGoes) {
-    seedRolls(3);
-    setSwitch(Switch::skipText, true);
-    game.campaign = backAndForth;
-    giveHero(7);
-    game.turns = 77;
-    clearBoard();
-    showScenarioEnd();
-    GameState wanted = game;
-    nextCampaignStage();
-    wanted.columns = game.columns;
-    wanted.campaignStage = 1;
-    wanted.scenario = 2;
-    EXPECT_EQ(std::memcmp(&game, &wanted, sizeof game), 0);
-    EXPECT_TRUE(widget(id::continueGame).hidden);
-}
-
 TEST_F(CampaignTest, DamagedPositionsAreShownAndPlayedWithoutBeingMended) {
     seedRolls(3);
     for (const int damaged : {-most - 1, -2, 3, 99, most}) {
         SCOPED_TRACE(damaged);
         game.campaign = game.campaignStage = game.scenario = damaged;
-        clearBoard();
+        prefs.scenarioOver = 1;
+        for (int col = 0; col < columnCount; ++col) column(col).finished = 1;
         const std::string before = gameBytes();
         openPlayScreen();
         EXPECT_EQ(gameBytes(), before);

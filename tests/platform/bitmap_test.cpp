@@ -118,14 +118,14 @@ TEST(Bitmap, APictureThatCannotBeReadIsNamedInOneLine) {
     };
     std::ofstream(file) << twoByTwo24;
     EXPECT_EQ(load(file), (Pixels{c2, c3, c0, c1}));
-    EXPECT_TRUE(script::toldLines().empty());
+    EXPECT_TRUE(script::warnings().empty());
     std::ofstream(file) << "\x89PNG";
     const std::string picture = "the picture " + file.string() + " ";
     EXPECT_EQ(load(file), untouched);
-    EXPECT_EQ(script::toldLines(), std::vector{picture + "is not a bitmap file; save it as one"});
+    EXPECT_EQ(script::warnings(), std::vector{picture + "is not a bitmap file; save it as one"});
     std::filesystem::remove(file);
     for (const std::string& nothing : {file.string(), ""s, "/"s}) EXPECT_EQ(load(nothing), untouched);
-    EXPECT_EQ(script::toldLines(), std::vector{"the picture / is missing; put it there again"s});
+    EXPECT_EQ(script::warnings(), std::vector{"the picture / is missing; put it there again"s});
 }
 
 TEST(Bitmap, LyingHeadersAreToldAndChangeNothingAndLyingPalettesAreBlackBeyondTheirEnd) {

@@ -88,7 +88,7 @@ TEST_F(QuickPlayTest, WithoutPicturesAndADataFolderTheGameIsPlayedAndNothingIsKe
         std::filesystem::remove_all(folder + "/Data");
         if (isFile) std::ofstream(folder + "/Data") << "no folder";
         EXPECT_EQ(restart(script), 0);
-        EXPECT_EQ(script::toldLines().size(), 4U) << "one for each picture";
+        EXPECT_EQ(script::warnings().size(), 4U) << "one for each picture";
         EXPECT_EQ(std::filesystem::exists(folder + "/Data"), isFile);
     }
 }

@@ -30,7 +30,7 @@ TEST_F(BoardTurnTest, AnItemIsMarkedByItsNetChangeOfTheTurn) {
 TEST_F(BoardTurnTest, ATickTakesATurnOffActivePowersOnly) {
     game.powers = {1, 3, -2, 7};
     PowersTick();
-    EXPECT_EQ(game.powers, (Powers{0, 2, -2, 7}));
+    EXPECT_EQ(game.powers, (std::array<std::int32_t, 4>{0, 2, -2, 7}));
 }
 
 TEST_F(BoardTurnTest, ToughnessHealsBelowATenthOfItself) {

@@ -34,15 +34,6 @@ TEST_F(CostsTest, ALockIsPickedForFreeElseTakesItsKeysSilentlyElseTheSkillTriesA
     }
 }
 
-TEST_F(CostsTest, AFurtherTryCostsATurnOfThePowers) {
-    game.skills = {2, 0, 0, 0, 0, 95};
-    game.powers = {1, 5, 1};
-    rolls({{100, 2}, {100, 2}, {100, 1}});
-    EXPECT_EQ(OpenLock(2), 1);
-    EXPECT_EQ(game.powers, (Powers{0, 3}));
-    EXPECT_EQ(count(health), 0) << "toughness does not heal meanwhile";
-}
-
 TEST_F(CostsTest, DeflectionLeavesAThirdOfAHitToughnessStopsATenthOfItsMarginAndARefusalIsSaidAlone) {
     struct Hit {
         int amount, required, threshold, health, toughness, deflection;

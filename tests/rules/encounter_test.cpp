@@ -74,24 +74,4 @@ TEST_F(EncounterTest, WhatIsPaidForChangesTheHeroByWhatItRollsInOrder) {
     EXPECT_EQ(turnsLeft(magicSight), 8);
 }
 
-TEST_F(EncounterTest, ABookAlwaysDrawsBothBonusesAndNamesTheSkill) {
-    level(sunBoost) = 94;
-    EXPECT_EQ(meet(enc::Book, {{6, 6}, {100, 34}, {100, 17}, doorDealt}), 1);
-    EXPECT_EQ(meet(enc::Book, {{6, 5}, {100, 33}, {100, 16}, doorDealt}), 1);
-    EXPECT_EQ(messagesShown(), "+3% Sun boost|+1% Toughness");
-    EXPECT_EQ(game.skills, (std::array<std::int32_t, 7>{0, 0, 0, 0, 95, 1}));
-    EXPECT_TRUE(ui.messagePosted);
-}
-
-TEST_F(EncounterTest, AMasterThiefStealsThreeTimesAndKeepsWhatItTookBeforeItsRefusal) {
-    level(thiefProtection) = 40;
-    game.inventory = {1, 0, 3};
-    EXPECT_EQ(meet(enc::Thief, {{100, 41}, {9, 3}, {100, 34}, doorDealt}), 1);
-    EXPECT_EQ(meet(enc::MasterThief, {{100, 40}, {100, 41}, {9, 3}, {100, 33}, {100, 40}, doorDealt}), 1);
-    EXPECT_EQ(game.inventory, Inventory{1});
-    EXPECT_EQ(meet(enc::MasterThief, {{100, 41}, {9, 1}}), 0);
-    EXPECT_EQ(game.inventory, Inventory{});
-    EXPECT_EQ(messageBar.lines[1], "Need total stats above 0.") << "the third theft is tried too";
-}
-
 }  // namespace gloomdeck

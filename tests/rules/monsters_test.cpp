@@ -43,15 +43,6 @@ TEST_F(MonsterTest, AGhostFleesUpThenToTheSidesInRolledOrderThenDown) {
     }
 }
 
-TEST_F(MonsterTest, AGhostIsFoughtAtTheEdgeAndBesideAColumnThatHasEnded) {
-    column(1).drawn = 60;
-    board(0, 5) = enc::Door;
-    count(health) = 9;
-    EXPECT_EQ(meet(enc::Ghost, {rightFirst, {2, 2}, noToughness, doorDealt}, {0, 6}), 1);
-    EXPECT_EQ(count(health), 7);
-    EXPECT_TRUE(advanced(0));
-}
-
 TEST_F(MonsterTest, FilthSpreadsToEveryNeighbourAndLosesWhatWasThere) {
     board(3, 2) = enc::Chest;
     EXPECT_EQ(meetFilth({}, {3, 3}), 1);

@@ -9,7 +9,6 @@
 namespace gloomdeck {
 
 using Inventory = std::array<std::int32_t, 10>;
-using Powers = std::array<std::int32_t, 4>;
 
 inline constexpr FedRoll doorDealt{100, 12};  // in a Dungeon column
 inline constexpr FedRoll noToughness{100, 100};
@@ -26,7 +25,7 @@ class RuleTest : public GameTest {
         return result;
     }
 
-    static bool advanced(int col = 3) { return column(col).drawn == 1 && board(col, 0) == enc::Door; }
+    static bool advanced() { return column(3).drawn == 1 && board(3, 0) == enc::Door; }
 
     static int countOf(enc::Code code) {
         int found = 0;

@@ -102,7 +102,7 @@ TEST_F(MessagesTest, AMissingStripLeavesItsTilesTransparentAndTheLastTileIsBeyon
     std::filesystem::remove(folder + "/gfx/dtiles2.bmp");
     loadTiles();
     const Image nothing = createImage(tile::size, tile::size);
-    EXPECT_EQ(script::toldLines(),
+    EXPECT_EQ(script::warnings(),
               std::vector{"the picture " + folder + "/gfx/dtiles2.bmp is missing; put it there again"});
     for (const int number : {1, 49, 99, 147})
         EXPECT_EQ(tileImage(number).pixels[16 * 33], flatColour(number));
