@@ -27,9 +27,9 @@ Colour stampColour(char letter) {
 
 std::span<const Ramp> allRamps() {
     using namespace ramp;
-    static constexpr Ramp ramps[] = {ink,   stone, steel,  bone,  wood,  gold,  fire,   moss,
-                                     acid,  cyan,  violet, flesh, floor, mossy, portal, marble,
-                                     inlay, ash,   dawn,   noon,  dusk,  night};
+    static constexpr Ramp ramps[] = {ink,    stone, steel, bone,   wood,  gold,  fire,  crimson,
+                                     moss,   acid,  cyan,  violet, flesh, floor, mossy, portal,
+                                     marble, inlay, ash,   dawn,   noon,  dusk,  night};
     return ramps;
 }
 

@@ -102,8 +102,8 @@ Canvas fruit() {
            ramp::wood, flat(4));
     t.part(poly({18.6, 6.4, 22, 1.6, 30, 2.4, 28, 8.2, 22.6, 9.2}), ramp::acid, bevel(3, 2.4, 2.4, .2));
     t.part(poly({17.4, 6.2, 13, 2, 6, 3.6, 8, 8.6, 13, 8.8}), ramp::acid, bevel(3.4, 2.4, 2.4, .2));
-    t.part(circle(23.6, 23.8, 6.6), ramp::fire, dome(3.0, 3, 6.4, .4));
-    t.part(circle(8.4, 22.2, 6.8), ramp::fire, dome(3.3, 3, 6.6, .4));
+    t.part(circle(23.6, 23.8, 6.6), ramp::crimson, dome(3.0, 3, 6.4, .4));
+    t.part(circle(8.4, 22.2, 6.8), ramp::crimson, dome(3.2, 3, 6.6, .4));
     t.stamp(4, 18, {".ww", "www", "ww"}).stamp(20, 20, {".ww", "ww"}).stamp(23, 4, {"..G", ".G", "G"});
     return t.outline();
 }
