@@ -81,7 +81,15 @@ Canvas cave() {
     return t.stamp(12, 21, {"oo....oo", ".Oo..oO"}).outline();
 }
 
-Canvas pebbles() { return Canvas().stamp(8, 24, {"..x", ".xqQ..........x", ".QQ..........xqQ"}); }
+// What nothing looks like: three stones, no two alike, dull but lighter than every floor and the panels.
+Canvas pebbles() {
+    const Look worn = dome(3.6, 2.4, 2.4, .2).within(1, 4);
+    Canvas t;
+    t.part(capsule({9.4, 24.6}, {11.6, 25.2}, 2.7, 2.3), ramp::stone, worn);
+    t.part(circle(16.2, 27, 1.7), ramp::stone, worn);
+    t.part(capsule({22.2, 25.8}, {24, 26.2}, 2.2, 1.8), ramp::stone, worn);
+    return t.outline();
+}
 
 Canvas theEnd() {
     Canvas t;

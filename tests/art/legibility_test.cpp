@@ -108,10 +108,30 @@ TEST(Legibility, BodiesStandOutFromEveryTerrain) {
         const double below = meanLuma(tile(ground), [](double) { return true; });
         EXPECT_LT(below, 50) << ground;
         for (const int number : bodies) {
-            if (number == 50 || number == 100) continue;  // darkness and pebbles are meant to be dark
+            if (number == 50) continue;  // darkness is meant to be dark
             const double body = meanLuma(tile(number), [](double v) { return v > 30; });
             EXPECT_GE(std::fabs(body - below), 45) << number << " on " << ground;
         }
+    }
+}
+
+// Pixels of a tile whose luma differs that much from what is under them.
+int pixelsApart(const Canvas& over, const Canvas& under, double least) {
+    int n = 0;
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 0; x < 32; ++x) {
+            const double here = over.painted(x, y) ? luma(over.colour(x, y)) : luma(under.colour(x, y));
+            n += std::fabs(here - luma(under.colour(x, y))) >= least ? 1 : 0;
+        }
+    }
+    return n;
+}
+
+TEST(Legibility, NothingIsSeenOnThePanelsAndOnEveryFloor) {
+    std::vector<Canvas> grounds = floors();
+    grounds.push_back(plain(panelGround));
+    for (const Canvas& ground : grounds) {
+        EXPECT_GE(pixelsApart(tile(100), ground, 45), 30) << "on ground " << &ground - grounds.data();
     }
 }
 
