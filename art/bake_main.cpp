@@ -37,7 +37,7 @@ void bakeIcons(const fs::path& folder) {
         write(folder / std::string(n).append("x").append(n) / "apps" / "gloomdeck.png",
               pngFile(paintIcon(size)));
     }
-    write(folder / "scalable" / "apps" / "gloomdeck.svg", svgFile(paintIcon(64)));
+    write(folder / "scalable" / "apps" / "gloomdeck.svg", svgFile(paintIcon(finestIcon)));
 }
 
 void bakeWindowIcon(const fs::path& file) {

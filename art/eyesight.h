@@ -1,4 +1,4 @@
-// How pictures look to others: in grey, without green cones, from far away.
+// How pictures look to others: in grey, without green or red cones, from far away.
 #pragma once
 
 #include <array>
@@ -11,6 +11,7 @@ double luma(Colour c);
 Colour grey(Colour c);
 // Machado 2009, severity 1, in linear light.
 Colour deuteranopia(Colour c);
+Colour protanopia(Colour c);
 
 // The picture on a ground of its own size, every colour seen through `view`.
 Canvas seenOver(const Canvas& picture, const Canvas& ground, Colour (*view)(Colour));

@@ -6,6 +6,7 @@
 namespace gloomdeck::art {
 
 inline constexpr int iconSizes[] = {16, 32, 48, 64, 128, 256};
+inline constexpr int finestIcon = 256;  // the scalable one is drawn like it
 
 Canvas paintIcon(int size);
 

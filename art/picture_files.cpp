@@ -2,6 +2,7 @@
 #include "art/picture_files.h"
 
 #include <cstdio>
+#include <map>
 
 #include "art/tiles.h"
 
@@ -41,11 +42,28 @@ int runLength(const Canvas& picture, int x, int y) {
     return n;
 }
 
-std::string rectangle(int x, int y, int w, Colour c) {
-    char text[96];
-    std::snprintf(text, sizeof text, "<rect x=\"%d\" y=\"%d\" width=\"%d\" height=\"1\" fill=\"#%06x\"/>\n",
-                  x, y, w, c);
-    return text;
+// All runs of one colour in one path: each is a rectangle that starts where the last one did, moved.
+struct Runs {
+    Pixel last{0, 0};
+    std::string path;
+};
+
+void append(Runs& runs, Pixel at, int n) {
+    char text[64];
+    std::snprintf(text, sizeof text, "m%d %dh%dv1h-%dz", at.x - runs.last.x, at.y - runs.last.y, n, n);
+    runs.path += text;
+    runs.last = at;
+}
+
+std::map<Colour, Runs> runsByColour(const Canvas& picture) {
+    std::map<Colour, Runs> found;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0, n = 1; x < picture.width(); x += n) {
+            n = picture.painted(x, y) ? runLength(picture, x, y) : 1;
+            if (picture.painted(x, y)) append(found[picture.colour(x, y)], {x, y}, n);
+        }
+    }
+    return found;
 }
 
 }  // namespace
@@ -76,12 +94,10 @@ std::string svgFile(const Canvas& picture) {
     const std::string w = std::to_string(picture.width()), h = std::to_string(picture.height());
     std::string out = R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" + w + R"(" height=")" + h +
                       R"(" viewBox="0 0 )" + w + " " + h + R"(" shape-rendering="crispEdges">)" + "\n";
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width();) {
-            const int n = picture.painted(x, y) ? runLength(picture, x, y) : 1;
-            if (picture.painted(x, y)) out += rectangle(x, y, n, picture.colour(x, y));
-            x += n;
-        }
+    for (const auto& [colour, runs] : runsByColour(picture)) {
+        char fill[32];
+        std::snprintf(fill, sizeof fill, R"(<path fill="#%06x" d=")", colour);
+        out += fill + runs.path + "\"/>\n";
     }
     return out + "</svg>\n";
 }

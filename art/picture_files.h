@@ -13,7 +13,7 @@ std::string bitmapFile(const Canvas& picture);
 // Tiles first .. last side by side; unused numbers stay unpainted.
 Canvas tileStrip(int first, int last);
 
-// One rectangle per run of equal pixels in a row.
+// One path per colour, of a rectangle per run of equal pixels in a row.
 std::string svgFile(const Canvas& picture);
 
 }  // namespace gloomdeck::art

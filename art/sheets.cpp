@@ -11,6 +11,7 @@ namespace {
 
 constexpr int size = 32;
 constexpr int terrains[] = {55, 60, 37, 71};
+constexpr Colour (*views[])(Colour) = {grey, deuteranopia, protanopia};
 constexpr int encounters[] = {3, 69, 93, 65, 50, 49, 1,  91, 100, 46, 17, 22,
                               5, 42, 82, 35, 18, 41, 21, 14, 28,  19, 34, 6};
 constexpr int iconsOnGrounds[] = {48, 45, 75, 74, 68,  24,  13,  23,  7,   39,
@@ -63,14 +64,14 @@ Canvas everyTile(int k) {
     return enlarged(t, k);
 }
 
-// On every ground, then the first ground in grey and without green cones.
+// On every ground, then the first ground in grey and without green or red cones.
 Canvas onEveryGround(std::span<const int> numbers, const std::vector<Canvas>& grounds, int k) {
     std::vector<Canvas> lines;
-    lines.reserve(grounds.size() + 2);
+    lines.reserve(grounds.size() + std::size(views));
     for (const Canvas& below : grounds) lines.push_back(row(numbers, below));
     const Canvas first = lines.front();
     const Canvas nothing(first.width(), size);
-    for (Colour (*view)(Colour) : {grey, deuteranopia}) lines.push_back(seenOver(nothing, first, view));
+    for (Colour (*view)(Colour) : views) lines.push_back(seenOver(nothing, first, view));
     return enlarged(stacked(lines), k);
 }
 
@@ -106,8 +107,9 @@ Canvas fullBoard() {
 Canvas boardViews() {
     const Canvas board = fullBoard();
     const Canvas nothing(board.width(), board.height());
-    return enlarged(stacked({board, seenOver(nothing, board, grey), seenOver(nothing, board, deuteranopia)}),
-                    2);
+    std::vector<Canvas> seen{board};
+    for (Colour (*view)(Colour) : views) seen.push_back(seenOver(nothing, board, view));
+    return enlarged(stacked(seen), 2);
 }
 
 }  // namespace

@@ -105,11 +105,16 @@ Canvas thief() {
     return t.part(capsule(17.4, 18, 20.6, 13.4, 1.9), ramp::moss, dome(4.2, 2, 2)).outline();
 }
 
-void dagger(Canvas& t, double x, double handX) {
-    t.part(poly({x - 1.6, 21.5, x - 1.6, 13, x, 9.4, x + 1.6, 13, x + 1.6, 21.5}), ramp::steel,
-           bevel(5, 2, 1.5, .1, split(x, .6, -.8)));
-    t.part(box(x - 3, 21, x + 3, 22.8), ramp::gold, flat(4));
-    t.part(circle(handX, 24.6, 2.3), ramp::flesh, dome(3.6, 2, 2));
+// Pointed steel two pixels wide, tilted outwards; the hilts are darker than the hands.
+void daggers(Canvas& t) {
+    t.stamp(2, 7,
+            {"S", "Ss", "Ss", "Ss", ".Ss", ".Ss", ".Ss", "..Ss", "..Ss", "..Ss", "...Ss", "...Ss", "...Ss"});
+    t.stamp(
+        25, 7,
+        {"....s", "...Ss", "...Ss", "...Ss", "..Ss", "..Ss", "..Ss", ".Ss", ".Ss", ".Ss", "Ss", "Ss", "Ss"});
+    for (const double x : {7, 25}) t.part(circle(x, 23.4, 2.4), ramp::flesh, dome(3.6, 2, 2));
+    t.stamp(3, 20, {"...UUu", "UUu"}).stamp(7, 26, {"Uu", ".u"});
+    t.stamp(23, 20, {"Uuu", "...uuu"}).stamp(23, 26, {"Uu", "u"});
 }
 
 Canvas masterThief() {
@@ -119,7 +124,7 @@ Canvas masterThief() {
     Canvas t;
     t.part(poly({11, 11, 21, 11, 28.5, 31, 3.5, 31}), ramp::fire, bevel(2.1, 2.2, 5, .4, folds));
     t.part(poly({13, 16, 19, 16, 21, 31, 11, 31}), ramp::ink, flat(2).within(0));
-    for (const double s : sides) dagger(t, 16 + s * 11, 16 + s * 10.6);
+    daggers(t);
     t.part(poly({16, .8, 22.5, 6, 24, 15, 20, 18, 12, 18, 8, 15, 9.5, 6}), ramp::fire, dome(2.7, 2.4, 6, .4));
     t.part(ellipse(16, 12, 5.2, 4.8), ramp::ink, flat(0).within(0));
     return t.stamp(12, 11, {"Yh....hY", ".YY..YY", "", "", "..Y..Y", "...YY"}).outline();

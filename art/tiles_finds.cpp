@@ -102,25 +102,25 @@ Canvas fruit() {
            ramp::wood, flat(4));
     t.part(poly({18.6, 6.4, 22, 1.6, 30, 2.4, 28, 8.2, 22.6, 9.2}), ramp::acid, bevel(3, 2.4, 2.4, .2));
     t.part(poly({17.4, 6.2, 13, 2, 6, 3.6, 8, 8.6, 13, 8.8}), ramp::acid, bevel(3.4, 2.4, 2.4, .2));
-    t.part(circle(23.6, 23.8, 6.6), ramp::fire, dome(3.0, 3, 6.4, .4));
-    t.part(circle(8.4, 22.2, 6.8), ramp::fire, dome(3.3, 3, 6.6, .4));
+    t.part(circle(23.6, 23.8, 6.6), ramp::crimson, dome(3.0, 3, 6.4, .4));
+    t.part(circle(8.4, 22.2, 6.8), ramp::crimson, dome(3.2, 3, 6.6, .4));
     t.stamp(4, 18, {".ww", "www", "ww"}).stamp(20, 20, {".ww", "ww"}).stamp(23, 4, {"..G", ".G", "G"});
     return t.outline();
 }
 
-// A roast on the bone: knuckles at both ends, round brown body, one long glaze.
+// A haunch: cut at its thick end, it bulges and then tapers to the one bone.
 Canvas meat() {
     Canvas t;
-    t.part(capsule(6, 26, 26, 6, 1.9), ramp::bone, dome(4.6, 2.4, 2, .2));
-    for (const auto& [x, y] : {Point{3.4, 26}, {6, 28.8}, {26, 3.4}, {28.8, 6}}) {
-        t.part(circle(x, y, 2.5), ramp::bone, dome(4.8, 2.4, 2.2, .2).merged());
+    t.part(capsule(20, 20, 26.4, 26.4, 2), ramp::bone, dome(4.2, 2.4, 2, .2));
+    for (const auto& [x, y] : {Point{24.8, 28.4}, {28.4, 24.8}}) {
+        t.part(circle(x, y, 2.6), ramp::bone, dome(4.4, 2.6, 2.4, .2).merged());
     }
-    const Field body = capsule(13, 19, 19, 13, 9.2);
-    t.part(body, ramp::flesh, dome(1.9, 2.9, 9, .6, noise(3, 3, .9)));
-    for (const auto& [x, y] : {Point{9, 23}, {13.5, 27.5}}) {
-        t.part(meet({body, capsule(x, y - 9, x + 9, y, .7)}), ramp::flesh, flat(1, .3).merged());
-    }
-    return t.stamp(9, 9, {"......F", "....Fl", "...Fl", "..Fl", ".Ff", ".f"}).outline();
+    t.part(melt(circle(13.4, 13.4, 9.6), capsule({16, 16}, {23, 23}, 5, 2.8), 4), ramp::wood,
+           dome(3.6, 3, 8));
+    t.part(capsule(5.2, 11.6, 11.6, 5.2, 3.7), ramp::bone, flat(4, 0));
+    t.part(capsule(5.5, 11.5, 11.5, 5.5, 2.4), ramp::crimson, flat(5, 0).merged());
+    t.stamp(5, 7, {"...F", "..F", "F...F", "...F"});
+    return t.stamp(14, 8, {"F", ".FF"}).outline();
 }
 
 Canvas book() {

@@ -35,9 +35,11 @@ void sunBody(Canvas& t) {
 }
 
 void heartBody(Canvas& t) {
-    t.part(join({circle(10, 11.2, 7.6), circle(22, 11.2, 7.6),
-                 poly({3.2, 14, 9, 10, 16, 9, 23, 10, 28.8, 14, 16, 30})}),
-           ramp::fire, dome(2.9, 2.6, 8));
+    const Field body = join({circle(10, 11.2, 7.6), circle(22, 11.2, 7.6),
+                             poly({3.2, 14, 9, 10, 16, 9, 23, 10, 28.8, 14, 16, 30})});
+    const auto rim = [=](double x, double y) { return clamp(-body(x, y), 0, 3) * .8; };
+    const Field swell = add({rim, bump(10, 10, 12, 20, 5), bump(22, 10, 12, 20, 5)});
+    t.part(body, ramp::crimson, relief(3.4, 2.8, swell, .2, slope(-.02, -.02)).within(2));
     t.stamp(6, 7, {"..ww", ".www", "ww", "w"});
 }
 

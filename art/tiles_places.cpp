@@ -48,25 +48,23 @@ Canvas doubleDoor() {
     return t.outline();
 }
 
-// A pointed iron pyramid: a lit and a dark face that meet in one edge; the uppermost `blood` rows are red.
-void spike(Canvas& t, double x, double tip, double foot, double blood) {
-    const Field pyramid = poly({x, tip - 2, x + 4.8, foot, x, foot + 1.2, x - 4.8, foot});
-    t.part(pyramid, ramp::steel, flat(4.2, 0, add({split(x + .1, 1.2, -2), slope(0, -.05, 0, 20)})));
-    const Field point = meet({pyramid, box(x - 5, 0, x + 5, tip + blood)});
-    if (blood > 0) t.part(point, ramp::fire, flat(2.6, 0, split(x + .1, .6, -.6)).merged());
+// A pointed iron pyramid: a lit and a dark face that meet in one edge.
+void spike(Canvas& t, double x, double tip, double foot) {
+    t.part(poly({x, tip - 1.5, x + 5.4, foot, x, foot + 1.4, x - 5.4, foot}), ramp::steel,
+           flat(4.2, 0, add({split(x + .1, 1.2, -2), slope(0, -.05, 0, 20)})));
 }
 
-// Three spikes behind two out of a plank pit; evenly spaced, or they look like crystals.
+// Three spikes behind two out of a plank pit, evenly spaced, or they look like crystals; blood runs down in
+// drops, for a red point looks like a pencil's.
 Canvas trap() {
     Canvas t;
     t.part(box(1, 18, 31, 31, 1.5), ramp::wood, bevel(3.9, 2, 2, .2, columns(5, 1, -1.6)));
     t.part(box(3, 20, 29, 28, 1), ramp::ink, flat(0).within(0));
-    spike(t, 5.5, 8, 23, 4);
-    spike(t, 15.5, 8, 23, 0);
-    spike(t, 25.5, 8, 23, 2);
-    spike(t, 10.5, 15.5, 28.6, 4);
-    spike(t, 20.5, 15.5, 28.6, 0);
-    return t.outline();
+    for (const double x : {6, 16, 26}) spike(t, x, 7, 23);
+    t.stamp(3, 9, {"..I", "..I", "..I", ".II", ".Ii", "JIi", "IIi", ".i"});
+    t.stamp(24, 9, {"..I", "..I", ".II", "JIi", ".i"});
+    for (const double x : {11, 21}) spike(t, x, 14, 28.6);
+    return t.stamp(8, 16, {"..I", "..I", ".II", "JIi", "IIi", ".i"}).outline();
 }
 
 Canvas cave() {
@@ -83,7 +81,15 @@ Canvas cave() {
     return t.stamp(12, 21, {"oo....oo", ".Oo..oO"}).outline();
 }
 
-Canvas pebbles() { return Canvas().stamp(8, 24, {"..x", ".xqQ..........x", ".QQ..........xqQ"}); }
+// What nothing looks like: three stones, no two alike, dull but lighter than every floor and the panels.
+Canvas pebbles() {
+    const Look worn = dome(3.6, 2.4, 2.4, .2).within(1, 4);
+    Canvas t;
+    t.part(capsule({9.4, 24.6}, {11.6, 25.2}, 2.7, 2.3), ramp::stone, worn);
+    t.part(circle(16.2, 27, 1.7), ramp::stone, worn);
+    t.part(capsule({22.2, 25.8}, {24, 26.2}, 2.2, 1.8), ramp::stone, worn);
+    return t.outline();
+}
 
 Canvas theEnd() {
     Canvas t;

@@ -1,4 +1,4 @@
-// The title picture put together, with its wall, torches and robe.
+// The title picture put together, with its wall and torches.
 #include "art/title.h"
 
 #include <cmath>
@@ -67,20 +67,6 @@ void torchFire(Canvas& p, int cx) {
     }
 }
 
-void ermine(Canvas& p) {
-    const Field fur = add({ellipse(titleMiddle, 300, 104, 29), noise(12, 5, 3)});
-    const auto depth = [=](double x, double y) { return clamp(-fur(x, y), 0, 26) * .9; };
-    p.fill(grow(fur, 2), inkColour);
-    p.part(fur, ramp::bone,
-           relief(3.9, 3.0, add({noise(5, 6, 6), noise(6, 3, 2), depth}), .8,
-                  slope(-.004, -.012, titleMiddle, 300)));
-    for (int k = -4; k <= 4; ++k) {
-        const double x = titleMiddle + k * 22, y = 313 - k * k * 1.5;
-        p.part(join({ellipse(x, y, 3.2, 7), capsule(x, y + 2, x + k * .6, y + 10, 2, .7)}), ramp::ink,
-               flat(3, 0).merged());
-    }
-}
-
 }  // namespace
 
 Field mirrored(const std::vector<double>& half) {
@@ -110,21 +96,6 @@ void titleTorches(Canvas& p) {
         torchStick(p, cx);
         torchFire(p, cx);
     }
-}
-
-void titleRobe(Canvas& p) {
-    const Field cloak = mirrored({0, 276, 58, 296, 114, 316, 154, 372, 168, 489});
-    const auto folds = [](double x, double y) {
-        const double aside = std::fabs(x - titleMiddle);
-        return wave((aside + (y - 290) * .22) / 46 + .1) * 9 + wave((aside - (y - 290) * .1) / 23) * 3;
-    };
-    const Field height = [=](double x, double y) { return folds(x, y) + clamp(-cloak(x, y), 0, 60) * .7; };
-    p.fill(grow(cloak, 2.5), inkColour);
-    p.part(cloak, ramp::violet,
-           relief(2.2, 3.4, height, .8, add({slope(0, -.011, titleMiddle, 330), noise(8, 5, .6)})));
-    ermine(p);
-    p.part(circle(titleMiddle, 333, 12), ramp::gold, bevel(3.9, 2.8, 5, .4));
-    p.part(circle(titleMiddle, 333, 7.4), ramp::fire, dome(3.2, 3.2, 7)).stamp(199, 327, {".ww", "ww", "w"});
 }
 
 Canvas paintTitle() {

@@ -1,4 +1,5 @@
 // Seven cards for the seven columns, upright, in an arc; each window shows terrain and a real tile 1:1.
+#include <algorithm>
 #include <cmath>
 
 #include "art/painter.h"
@@ -9,11 +10,14 @@ namespace gloomdeck::art {
 namespace {
 
 struct Card {
-    int terrain, thing, drop;
+    int terrain;
+    const Ramp& ramp;
+    int thing, drop;
 };
 
-constexpr Card hand[] = {{55, 69, 14}, {71, 17, 6}, {60, 93, 2}, {37, 34, -6},
-                         {55, 91, 2},  {71, 48, 6}, {60, 35, 14}};
+constexpr Card hand[] = {{55, ramp::floor, 69, 14},  {71, ramp::marble, 17, 6}, {60, ramp::mossy, 93, 2},
+                         {37, ramp::portal, 34, -6}, {55, ramp::floor, 91, 2},  {71, ramp::marble, 48, 6},
+                         {60, ramp::mossy, 35, 14}};
 constexpr int firstColumn = 6, pitch = 57, topRow = 386, best = 3;
 
 void border(Canvas& p, double x, double y, int nth) {
@@ -25,15 +29,23 @@ void border(Canvas& p, double x, double y, int nth) {
            bevel(2.6, 2.4, 2, .2));
 }
 
-// Terrain darkened towards both ends, the thing in its middle.
+// The colour that many steps up its ramp; colours from elsewhere stay.
+Colour lifted(Colour c, const Ramp& ramp, double steps) {
+    const auto nth = std::ranges::find(ramp, c) - ramp.begin();
+    if (nth == std::ssize(ramp)) return c;
+    const double step = std::floor(static_cast<double>(nth) + steps);
+    return ramp[static_cast<std::size_t>(clamp(step, 0, 6))];
+}
+
+// Terrain under a light that falls on the thing in its middle and fades towards both ends.
 void window(Canvas& p, int x, int y, const Card& card) {
-    const Field opening = box(x + 6, y + 6, x + 48, y + 76, 2);
     const Canvas terrain = paintTile(card.terrain);
-    for (const Pixel& at : p.inside(opening)) {
-        p.set(at.x, at.y, terrain.colour((at.x - x - 11) & 31, (at.y - y - 25) & 31));
+    for (const Pixel& at : p.inside(box(x + 6, y + 6, x + 48, y + 76, 2))) {
+        const double away = length(at.x - x - 24, (at.y - y - 36) * .7);
+        const double steps = 2.9 - away * .07 + bayer(at.x, at.y);
+        const Colour unlit = terrain.colour((at.x - x - 11) & 31, (at.y - y - 25) & 31);
+        p.set(at.x, at.y, lifted(unlit, card.ramp, steps));
     }
-    const auto ends = [=](double, double row) { return 27 - std::fabs(row - y - 41); };
-    p.part(meet({opening, add({ends, dithered(9)})}), ramp::ink, flat(1.2, .8).merged());
     p.lay(paintTile(card.thing), x + 11, y + 25);
 }
 

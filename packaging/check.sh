@@ -73,7 +73,8 @@ has_icons() {
     for size in 16 32 48 64 128 256; do
         file "$1/${size}x$size/apps/gloomdeck.png" | grep -F ", $size x $size," || return 1
     done
-    file "$1/scalable/apps/gloomdeck.svg" | grep -F SVG
+    file "$1/scalable/apps/gloomdeck.svg" | grep -F SVG &&
+        grep -F 'viewBox="0 0 256 256"' "$1/scalable/apps/gloomdeck.svg"
 }
 
 # says_licence FILE...: wherever lines are broken.

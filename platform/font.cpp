@@ -1,5 +1,6 @@
 // The glyphs as grids that can be read and edited: '#' is ink. Capitals stand on rows 0 to 6, small letters
 // on rows 2 to 6, descenders take row 7; stems are two pixels wide, horizontals one; column 7 stays empty.
+// The percent sign is narrow, so that it ends a number where the next one follows at once.
 #include "platform/font.h"
 
 #include <algorithm>
@@ -64,13 +65,13 @@ constexpr std::array<Grid, characterCount> grids = {
     "..##...."
     "........",
     // %
-    "##...#.."
-    "##..##.."
-    "...##..."
-    "..##...."
-    ".##....."
-    "##..##.."
-    "#...##.."
+    "##.#...."
+    "##.#...."
+    "...#...."
+    "..#....."
+    ".#......"
+    "#.##...."
+    "#.##...."
     "........",
     // &
     ".###...."

@@ -87,15 +87,33 @@ TEST(Icons, AreCentredAndLeaveTheGroundBare) {
     }
 }
 
-TEST(Svg, RunsCoverExactlyThePaintedPixels) {
-    Canvas t(4, 2);
-    for (const int x : {0, 1, 3}) t.set(x, 0, 0x00AB01);
-    t.set(2, 0, 0x123456);
-    const std::string file = svgFile(t);
-    EXPECT_NE(file.find("x=\"0\" y=\"0\" width=\"2\" height=\"1\" fill=\"#00ab01\""), std::string::npos);
-    EXPECT_NE(file.find("x=\"2\" y=\"0\" width=\"1\" height=\"1\" fill=\"#123456\""), std::string::npos);
-    EXPECT_NE(file.find("x=\"3\" y=\"0\" width=\"1\""), std::string::npos);
-    EXPECT_EQ(file.find("y=\"1\""), std::string::npos);
+// Draws the rectangles of one path: each starts where the last one did, moved, and is one pixel high.
+void draw(Canvas& t, const std::string& path, Colour colour) {
+    std::istringstream in(path);
+    char m, h, v, back, z;
+    int x = 0, y = 0;
+    for (int dx, dy, n, tall, left; in >> m >> dx >> dy >> h >> n >> v >> tall >> back >> left >> z;) {
+        EXPECT_EQ((std::string{m, h, v, back, z}), "mhvhz");
+        EXPECT_EQ(std::pair(tall, left), std::pair(1, -n));
+        x += dx;
+        y += dy;
+        for (int i = 0; i < n; ++i) t.set(x + i, y, colour);
+    }
+}
+
+TEST(Svg, PathsCoverExactlyThePaintedPixels) {
+    const Canvas icon = paintIcon(48);
+    std::istringstream file(svgFile(icon));
+    Canvas t(icon.width(), icon.height());
+    const std::string before = "<path fill=\"#", between = "\" d=\"";
+    for (std::string line; std::getline(file, line);) {
+        if (!line.starts_with(before)) continue;
+        const std::string colour = line.substr(before.size(), 6);
+        EXPECT_EQ(line.substr(before.size() + 6, between.size()), between);
+        draw(t, line.substr(before.size() + 6 + between.size()),
+             static_cast<Colour>(std::stoul(colour, nullptr, 16)));
+    }
+    EXPECT_EQ(pictureHash(t), pictureHash(icon));
 }
 
 }  // namespace

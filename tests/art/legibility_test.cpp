@@ -1,26 +1,45 @@
-// Pictures must be told apart from far away, in grey and without green cones, on every terrain.
+// Pictures must be told apart from far away, in grey and without green or red cones, wherever they are shown.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
 #include "art/eyesight.h"
+#include "art/shapes.h"
 #include "tests/art/tiles_under_test.h"
 
 namespace gloomdeck::art {
 namespace {
 
 using View = Colour (*)(Colour);
-constexpr View views[] = {grey, deuteranopia};
+constexpr View views[] = {grey, deuteranopia, protanopia};
 
-// A tile as it is seen on each terrain in each view, always in the same order.
+Canvas plain(Colour c) { return Canvas().fill(everywhere(), c); }
+
+const std::vector<Canvas>& floors() {
+    static const std::vector<Canvas> grounds = [] {
+        std::vector<Canvas> all;
+        for (const int number : terrains) all.push_back(tile(number));
+        return all;
+    }();
+    return grounds;
+}
+
+const std::vector<Canvas>& interfaceGrounds() {
+    static const std::vector<Canvas> grounds{plain(dimGround), plain(slateGround), plain(panelGround),
+                                             plain(0), tile(70)};
+    return grounds;
+}
+
+// A tile as it is seen on each ground in each view, always in the same order.
 using Looks = std::vector<Squint>;
 
-Looks looksOf(int number) {
+Looks looksOf(int number, const std::vector<Canvas>& grounds = floors()) {
     Looks looks;
     for (const View view : views) {
-        for (const int ground : terrains) looks.push_back(squint(seenOver(tile(number), tile(ground), view)));
+        for (const Canvas& ground : grounds) looks.push_back(squint(seenOver(tile(number), ground, view)));
     }
     return looks;
 }
@@ -31,16 +50,28 @@ double closest(const Looks& a, const Looks& b) {
     return nearest;
 }
 
-TEST(Legibility, AnyTwoThingsDifferAtAGlance) {
+std::vector<int> together(std::initializer_list<std::span<const int>> groups) {
+    std::vector<int> all;
+    for (const std::span<const int> group : groups) all.insert(all.end(), group.begin(), group.end());
+    return all;
+}
+
+void expectApart(const std::vector<int>& numbers, const std::vector<Canvas>& grounds, double least) {
     std::map<int, Looks> looks;
-    for (const int number : encounters) looks.emplace(number, looksOf(number));
-    for (const int number : items) looks.emplace(number, looksOf(number));
+    for (const int number : numbers) looks.emplace(number, looksOf(number, grounds));
     for (const auto& [a, looksOfA] : looks) {
         for (const auto& [b, looksOfB] : looks) {
             if (a >= b) continue;
-            EXPECT_GE(closest(looksOfA, looksOfB), 20) << a << " and " << b;
+            EXPECT_GE(closest(looksOfA, looksOfB), least) << a << " and " << b;
         }
     }
+}
+
+// The least distances are those of the closest pairs there have been: the shield's boost and toughness on a
+// floor, the bolt and its boost on a panel, both in grey.
+TEST(Legibility, AnyTwoThingsDifferAtAGlance) {
+    expectApart(together({encounters, items, markedGold, skillsAndPowers}), floors(), 24.19);
+    expectApart(together({items, markedGold, skillsAndPowers}), interfaceGrounds(), 22.12);
 }
 
 TEST(Legibility, TheHarderVersionOfAThingIsUnmistakable) {
@@ -77,10 +108,30 @@ TEST(Legibility, BodiesStandOutFromEveryTerrain) {
         const double below = meanLuma(tile(ground), [](double) { return true; });
         EXPECT_LT(below, 50) << ground;
         for (const int number : bodies) {
-            if (number == 50 || number == 100) continue;  // darkness and pebbles are meant to be dark
+            if (number == 50) continue;  // darkness is meant to be dark
             const double body = meanLuma(tile(number), [](double v) { return v > 30; });
             EXPECT_GE(std::fabs(body - below), 45) << number << " on " << ground;
         }
+    }
+}
+
+// Pixels of a tile whose luma differs that much from what is under them.
+int pixelsApart(const Canvas& over, const Canvas& under, double least) {
+    int n = 0;
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 0; x < 32; ++x) {
+            const double here = over.painted(x, y) ? luma(over.colour(x, y)) : luma(under.colour(x, y));
+            n += std::fabs(here - luma(under.colour(x, y))) >= least ? 1 : 0;
+        }
+    }
+    return n;
+}
+
+TEST(Legibility, NothingIsSeenOnThePanelsAndOnEveryFloor) {
+    std::vector<Canvas> grounds = floors();
+    grounds.push_back(plain(panelGround));
+    for (const Canvas& ground : grounds) {
+        EXPECT_GE(pixelsApart(tile(100), ground, 45), 30) << "on ground " << &ground - grounds.data();
     }
 }
 

@@ -87,14 +87,12 @@ double meanLuma(const Canvas& t) {
 
 TEST(Tiles, TheCoverDimsACellAndShowsWhatIsUnderIt) {
     const auto plain = [](Colour c) { return c; };
-    for (int y = 0; y < 32; ++y) {
-        for (int x = 0; x < 32; ++x) EXPECT_EQ(tile(cover).painted(x, y), (x + y) % 2 == 0);
-    }
+    EXPECT_NEAR(paintedPixels(tile(cover)), .75 * 32 * 32, 51) << "captions can be read through half of it";
     for (const int ground : terrains) {
         const Canvas open = seenOver(tile(91), tile(ground), plain);
         const Canvas other = seenOver(tile(42), tile(ground), plain);
         const Canvas covered = seenOver(tile(cover), open, plain);
-        EXPECT_LT(meanLuma(covered), .7 * meanLuma(open)) << ground;
+        EXPECT_LT(meanLuma(covered), .5 * meanLuma(open)) << ground;
         EXPECT_GT(squintDistance(squint(covered), squint(seenOver(tile(cover), other, plain))), 10) << ground;
     }
 }
