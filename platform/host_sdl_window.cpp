@@ -54,10 +54,29 @@ void refuseDrops() {
         SDL_EventState(type, SDL_DISABLE);
 }
 
+// How much larger than usual the desktop shows everything: X programs take it from the resolution that is set
+// for their fonts. Elsewhere, and where none is set, the window's own points are the desktop's.
+double desktopScale() {
+    constexpr double usualResolution = 96.0;  // dots per inch
+    if (SDL_GetCurrentVideoDriver() != placeTellingDriver) return 1.0;
+    void* const x11 = SDL_LoadObject("libX11.so.6");
+    if (!x11) return 1.0;
+    const auto open = reinterpret_cast<void* (*)(const char*)>(SDL_LoadFunction(x11, "XOpenDisplay"));
+    const auto get = reinterpret_cast<const char* (*)(void*, const char*, const char*)>(
+        SDL_LoadFunction(x11, "XGetDefault"));
+    const auto close = reinterpret_cast<int (*)(void*)>(SDL_LoadFunction(x11, "XCloseDisplay"));
+    void* const display = open && get && close ? open(nullptr) : nullptr;
+    const char* const resolution = display ? get(display, "Xft", "dpi") : nullptr;
+    const double scale = resolution ? std::strtod(resolution, nullptr) / usualResolution : 1.0;
+    if (display) close(display);
+    SDL_UnloadObject(x11);
+    return scale;
+}
+
 Extent openingSize() {
     SDL_Rect usable{};
     if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return frameSize;
-    const int scale = openingScale({usable.w, usable.h});
+    const int scale = openingScale({usable.w, usable.h}, desktopScale());
     return {frameSize.width * scale, frameSize.height * scale};
 }
 

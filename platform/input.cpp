@@ -41,6 +41,8 @@ bool programIsEnding() { return queue.ending; }
 
 bool buttonIsHeld() { return queue.handedDown; }
 
+bool closeRequestWaits() { return closeWaits(queue); }
+
 void keepCloseRequest() { giveBackClose(queue); }
 
 bool keptCloseRequest(const std::string& key) {

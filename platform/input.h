@@ -25,6 +25,9 @@ bool programIsEnding();
 /// True from a press that was handed out to its release, wherever the pointer is: leaving is no release.
 bool buttonIsHeld();
 
+/// True when a close request waits to be acted on.
+bool closeRequestWaits();
+
 /// Puts a close request that was read back in front, for the next loop that acts on it.
 void keepCloseRequest();
 

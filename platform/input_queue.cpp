@@ -19,10 +19,6 @@ bool isKnownKey(std::string_view key) {
 
 bool isClose(const KeyPress& key) { return key.text == keycode::close; }
 
-bool closeWaits(const InputQueue& queue) {
-    return std::any_of(queue.keys.begin(), queue.keys.end(), isClose);
-}
-
 // Changes alternate; the first one that is still owed to a press seen by the game stays, then the last click.
 void thinPiledClicks(InputQueue& queue) {
     auto& changes = queue.changes;
@@ -101,6 +97,10 @@ KeyPress takeKey(InputQueue& queue) {
 bool keyWaits(const InputQueue& queue) {
     const auto isForTheGame = [](const KeyPress& key) { return key.text != keycode::tab; };
     return queue.ending || std::any_of(queue.keys.begin(), queue.keys.end(), isForTheGame);
+}
+
+bool closeWaits(const InputQueue& queue) {
+    return std::any_of(queue.keys.begin(), queue.keys.end(), isClose);
 }
 
 bool inputWaits(const InputQueue& queue) {

@@ -92,6 +92,9 @@ bool keyWaits(const InputQueue& queue);
 /// True when anything waits to be polled.
 bool inputWaits(const InputQueue& queue);
 
+/// True when a close request waits among the keys.
+bool closeWaits(const InputQueue& queue);
+
 /// Tells that the game paused for an action: what piled up meanwhile is thinned at the next poll.
 void notePause(InputQueue& queue);
 

@@ -9,7 +9,11 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr Extent roomForOne{816, 732};  // usable pixels for each step of the opening scale
+constexpr Extent twiceTheFrame{816, 976};
+constexpr int titleBarHeight = 40;      // of most desktops; some have less
+constexpr double largestShare = 0.75;   // of the usable room that a window opens in
+constexpr double largeDesktop = 1.5;    // from this scale on everything is wanted large
+constexpr Extent roomForOne{816, 732};  // usable pixels for each further step of the opening scale
 constexpr int largestOpening = 4;
 
 int widthOf(const Rect& r) { return r.x2 - r.x1 + 1; }
@@ -95,9 +99,12 @@ Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* no
     return rows;
 }
 
-int openingScale(Extent usable) {
+int openingScale(Extent usable, double desktopScale) {
+    const double share = desktopScale >= largeDesktop ? 1.0 : largestShare;
+    const bool twice = twiceTheFrame.width <= share * usable.width &&
+                       twiceTheFrame.height + titleBarHeight <= share * usable.height;
     const int scale = std::min(usable.width / roomForOne.width, usable.height / roomForOne.height);
-    return std::clamp(scale, 1, largestOpening);
+    return std::clamp(scale, twice ? 2 : 1, largestOpening);
 }
 
 Rect fitFrame(Extent frame, Extent area) {

@@ -18,9 +18,11 @@ struct Extent {
 /// From the first to the last of those rows in which two frames differ; empty where they are the same.
 Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* now);
 
-/// How many times its size (1 to 4) a window for the frame opens on a display with that much usable room:
-/// large enough to read, and leaving at least half the width and a third of the height free.
-int openingScale(Extent usable);
+/// How many times its size (1 to 4) a window for the frame opens on a display with that much usable room.
+/// Twice where that, with a title bar, takes at most three quarters of it, or wherever it fits on a desktop
+/// that shows everything at 1.5 times its size or more; larger ones leave half the width and a third of the
+/// height free.
+int openingScale(Extent usable, double desktopScale);
 
 /// Where the frame is shown: the largest whole multiple of it that fits, centred; in an area smaller than the
 /// frame the largest picture of its shape. The corners lie inside the area, whose sides are at least 1.

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "autoplayer/autoplayer.h"
+#include "platform/input.h"
 #include "prefs/prefs.h"
 #include "rules/catalogue.h"
 #include "rules/game_state.h"
@@ -129,7 +130,7 @@ void enterPlayScreen() {
     widget(id::board).hoverCol = -1;
     widget(id::stats).hoverCol = -1;
     openPlayScreen();
-    RunAutoplayer();
+    if (!closeRequestWaits()) RunAutoplayer();  // the game is kept as it stands
 }
 
 }  // namespace gloomdeck

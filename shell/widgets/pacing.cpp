@@ -34,24 +34,6 @@ bool acknowledges(const std::string& key, const std::string& wanted) {
            key == keycode::space;
 }
 
-// The wait itself; the answer tells whether a close request was read.
-bool waitNotingClose(const std::string& wanted) {
-    const double start = timer();
-    const double deadline = wanted.empty() ? start + longestTitle + afterTitle : noDeadline;
-    bool closing = false;
-    while (true) {
-        if (leftIsHeld(getMouse())) {
-            waitForRelease();
-            return closing;
-        }
-        const std::string key = readKey();
-        closing = closing || key == keycode::close;
-        if (acknowledges(key, wanted) || programIsEnding()) return closing;
-        pausePolling(1, deadline);
-        if (wanted.empty() && timer() - start > longestTitle) return closing;
-    }
-}
-
 }  // namespace
 
 void Delay(int n) {
@@ -65,7 +47,15 @@ void speedDown(int announce) {
 }
 
 void waitForAck(const std::string& key) {
-    if (waitNotingClose(key)) keepCloseRequest();
+    const double start = timer();
+    const double deadline = key.empty() ? start + longestTitle + afterTitle : noDeadline;
+    while (true) {
+        if (leftIsHeld(getMouse())) return waitForRelease();
+        const std::string pressed = readKey();
+        if (keptCloseRequest(pressed) || acknowledges(pressed, key) || programIsEnding()) return;
+        pausePolling(1, deadline);
+        if (key.empty() && timer() - start > longestTitle) return;
+    }
 }
 
 }  // namespace gloomdeck

@@ -14,7 +14,7 @@ void speedUp(int announce);
 void speedDown(int announce);
 
 /// Waits for a click, Enter, Escape, Space or the key given; with an empty key any key will do and the wait
-/// ends by itself after 15 seconds. A close request that comes meanwhile stays to be acted on.
+/// ends by itself after 15 seconds. A close request ends it too, and stays to be acted on.
 void waitForAck(const std::string& key);
 
 }  // namespace gloomdeck

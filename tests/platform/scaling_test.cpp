@@ -25,9 +25,11 @@ Pixels drawn(Extent size, const Pixels& pixels, Rows rows, Extent area, const Re
 
 TEST(Scaling, WindowsOpenLargeOnLargeDisplaysOnly) {
     // clang-format off
-    for (const auto& [usable, scale] : {std::pair{Extent{1631, 4000}, 1}, {{1632, 1463}, 1},
-                                        {{1632, 1464}, 2}, {{640, 400}, 1}, {{20000, 20000}, 4}})
-        EXPECT_EQ(openingScale(usable), scale) << usable.width;
+    for (const auto& [usable, desktop, scale] : {std::tuple{Extent{2560, 1354}, 1.0, 1}, {{2560, 1355}, 1.0, 2},
+             {{1087, 4000}, 1.0, 1}, {{1088, 4000}, 1.0, 2}, {{1920, 1080}, 1.49, 1}, {{1920, 1015}, 1.5, 1},
+             {{1920, 1016}, 1.5, 2}, {{815, 4000}, 2.0, 1},  {{816, 4000}, 2.0, 2},   {{2448, 2195}, 1.0, 2},
+             {{2448, 2196}, 1.0, 3}, {{640, 400}, 1.0, 1},   {{20000, 20000}, 2.0, 4}})
+        EXPECT_EQ(openingScale(usable, desktop), scale) << usable.width << " x " << usable.height;
     // clang-format on
 }
 

@@ -20,13 +20,12 @@ static Script smallGame() {
 
 using EndingTest = QuickPlayTest;
 
-TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestionAfterAStoryIsRead) {
+TEST_F(EndingTest, ACloseRequestEndsTheProgramFromEveryScreenWithoutAQuestion) {
     const Script playing = Script().startScenario(0);
     std::vector<Script> players{Script(), Script().passTitle(), playing,
                                 Script(playing).press(boardCell(0, 0))};
     for (const char* question : {"R", "N", "Q"}) players.push_back(Script(playing).key(question));
     for (Script& player : players) player.closeWindow();
-    players.push_back(Script().passTitle().key("\r").closeWindow().key("z").key(" "));
     for (const Script& player : players) {
         EXPECT_EQ(firstRun(player), 0);
         EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
@@ -81,6 +80,27 @@ TEST_F(EndingTest, ALostWindowSavesTheRecordsOfTheLastWholeMoveAndAGameThatLives
     });
     EXPECT_EQ(run(script.closeWindow()), 0);
     EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
+}
+
+TEST_F(EndingTest, ACloseRequestOnAStoryPageKeepsTheNewGameBeforeAnyMove) {
+    const Script first = Script().passTitle().key(keycode::enter);
+    Script next = Script(first).key(keycode::space).hurry().clearBoard().check([] {
+        prefs.switches = everySwitch;  // the autoplayer would go on
+        setSwitch(Switch::restartSwitch, false);
+        setSwitch(Switch::skipText, false);
+    });
+    next.key(keycode::space);
+    for (const auto& [player, stage] : {std::pair{first, 0}, {next, 1}}) {
+        std::string dealt;
+        Script closing = Script(player).check([&] { dealt = gameBytes(); }).closeWindow();
+        EXPECT_EQ(firstRun(closing), 0);
+        EXPECT_EQ(dataFile("DGDP.dat"), gameBytes());
+        EXPECT_EQ(gameBytes().substr(0, 460), dealt.substr(0, 460))
+            << "nothing was dealt or met after the page";
+        EXPECT_EQ(std::tuple(game.campaign, game.campaignStage, game.scoreStanding),
+                  std::tuple(0, stage, none));
+        EXPECT_EQ(dataFile("DGDG.dat").at(4), screen_id::play);
+    }
 }
 
 TEST_F(EndingTest, AWindowLostOnAStoryPageLeavesNoHalfStartedGame) {
