@@ -59,6 +59,7 @@ TEST_F(QuestionTest, ACloseRequestAnswersNoAndStays) {
 TEST_F(QuestionTest, WhatItCoveredAndTheClipComeBackExactly) {
     Colour next = 0;
     for (Colour& pixel : screen().pixels) pixel = next += 7919;
+    frameChanged();
     setClip(100, 150, 300, 200);
     const Image before = screen();
     const auto look = [&] { EXPECT_NE(script::shownFrame(), before.pixels); };
