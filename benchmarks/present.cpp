@@ -13,6 +13,7 @@
 #include "platform/frame.h"
 #include "platform/host_script.h"
 #include "platform/host_sdl_window.h"
+#include "platform/shown_frame.h"
 
 namespace gloomdeck {
 
@@ -20,24 +21,25 @@ namespace {
 
 constexpr std::size_t pixelCount = std::size_t{frameWidth} * frameHeight;
 constexpr int largestScale = 3;
-constexpr int middle = 60;     // moves before the first that is shown
-constexpr int shownMoves = 4;  // in turn; more would measure how far away their pixels lie
+constexpr int middle = 60;        // moves before the first that is shown
+constexpr double longMove = 1e6;  // seconds; no picture within one
+constexpr int shownMoves = 4;     // in turn; more would measure how far away their pixels lie
 
 SDL_Window* ourWindow = nullptr;
 SDL_Window* bareWindow = nullptr;
 
 // A picture, and the rows that the game names as changed after the one before it.
 struct Frame {
-    std::vector<Colour> pixels;
-    Rows changed{0, frameHeight - 1};
+    Image picture = createImage(frameWidth, frameHeight);
+    Rows named{0, frameHeight - 1};
 };
 using Frames = std::vector<Frame>;
 
 Frames framesThatDifferEverywhere() {
     Frames frames(2);
     for (Colour i = 0; i < pixelCount; ++i) {
-        frames[0].pixels.push_back(0xFF000000 | i * 97);
-        frames[1].pixels.push_back(frames[0].pixels.back() ^ 0x00FFFFFF);
+        frames[0].picture.pixels[i] = 0xFF000000 | i * 97;
+        frames[1].picture.pixels[i] = frames[0].picture.pixels[i] ^ 0x00FFFFFF;
     }
     return frames;
 }
@@ -45,17 +47,17 @@ Frames framesThatDifferEverywhere() {
 Frames framesOfGame() {
     Frames frames;
     startGame(1, 1);  // a long one
+    script::setFramePeriod(longMove);
     for (int move = 0; move < middle; ++move) playMove();
     showFrameNow();
-    script::takePresentedRows();
     Rows all;
     for (int move = 0; move < shownMoves; ++move) {
         playMove();
+        frames.push_back({screen(), namedRows()});
+        all = joined(all, namedRows());
         showFrameNow();
-        frames.push_back({screen().pixels, script::takePresentedRows()});
-        all = joined(all, frames.back().changed);
     }
-    frames.front().changed = all;  // it comes after the last one
+    frames.front().named = all;  // it comes after the last one
     return frames;
 }
 
@@ -88,19 +90,26 @@ void presentBarely(benchmark::State& state, const Frames& frames) {
     std::size_t next = 0;
     while (state.KeepRunning()) {
         const SDL_Surface* surface = SDL_GetWindowSurface(bareWindow);
-        enlargeBarely<scale>(frames[next].pixels.data(), static_cast<Colour*>(surface->pixels),
+        enlargeBarely<scale>(frames[next].picture.pixels.data(), static_cast<Colour*>(surface->pixels),
                              surface->pitch / static_cast<int>(sizeof(Colour)));
         SDL_UpdateWindowSurface(bareWindow);
         next = next + 1 < frames.size() ? next + 1 : 0;
     }
 }
 
+// As the frame is shown: what differs is found above the host.
+void present(ShownFrame& shown, const Frame& frame) {
+    const std::span<const Rows> differing = takeOver(shown, frame.picture, frame.named);
+    if (!differing.empty()) host::showFrame(shown.picture.pixels.data(), differing);
+}
+
 void presentOurs(benchmark::State& state, const Frames& frames, int scale) {
     if (!resize(ourWindow, scale)) return state.SkipWithError("the window has another size");
-    host::showFrame(frames.back().pixels.data(), {0, frameHeight - 1});
+    static ShownFrame shown{.picture = createImage(frameWidth, frameHeight), .differing = {}};
+    present(shown, {frames.back().picture});
     std::size_t next = 0;
     while (state.KeepRunning()) {
-        host::showFrame(frames[next].pixels.data(), frames[next].changed);
+        present(shown, frames[next]);
         next = next + 1 < frames.size() ? next + 1 : 0;
     }
 }

@@ -1,23 +1,28 @@
 #include "platform/frame.h"
 
 #include <algorithm>
+#include <span>
 
 #include "platform/host.h"
+#include "platform/shown_frame.h"
 
 namespace gloomdeck {
 
 namespace {
 
 Image frame;
+ShownFrame shown;
 Rect clip;
 bool locked = false;
-Rows changed;               // what the display has not had yet
+Rows changed;               // named since the frame was shown last
 double lastShown = -1.0e9;  // long ago
 
 Rect wholeFrame() { return {0, 0, frame.width - 1, frame.height - 1}; }
 
+// Looking takes its time too, so that what differs nowhere is not looked at again at once.
 void show() {
-    host::present(frame.pixels.data(), changed);
+    const std::span<const Rows> differing = takeOver(shown, frame, changed);
+    if (!differing.empty()) host::present(shown.picture.pixels.data(), differing);
     lastShown = host::seconds();
     changed = {};
 }
@@ -27,9 +32,9 @@ void show() {
 void openWindow(int width, int height) {
     frame = createImage(width, height);
     std::fill(frame.pixels.begin(), frame.pixels.end(), 0xFF000000);
+    shown.picture = frame;
     resetClip();
     host::open(width, height);
-    frameChanged();
 }
 
 void setWindowTitle(const std::string& text) { host::setTitle(text); }
@@ -55,6 +60,8 @@ void frameChanged(Rows rows) { changed = joined(changed, rows); }
 
 void frameChanged() { changed = {0, frame.height - 1}; }
 
+Rows namedRows() { return changed; }
+
 bool frameWaits() { return changed.last >= changed.first && !locked; }
 
 double secondsUntilDue() { return std::max(0.0, lastShown + host::framePeriod() - host::seconds()); }
@@ -69,6 +76,7 @@ void showFrameNow() {
 
 void resetFrame() {
     destroyImage(frame);
+    shown = {};
     resetClip();
     locked = false;
     changed = {};

@@ -54,6 +54,9 @@ void showFrameWhenDue();
 /// Shows what has changed, unless the screen is locked, in time for a wait.
 void showFrameNow();
 
+/// The rows that were named since the frame was shown last, from the first to the last.
+Rows namedRows();
+
 /// True when something waits to be shown and could be.
 bool frameWaits();
 

@@ -3,6 +3,7 @@
 // everything above is the same code everywhere.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "platform/colour.h"
@@ -11,16 +12,17 @@
 
 namespace gloomdeck::host {
 
-/// Opens the window for a frame of that size, with the title set last. Where none can be opened the program
-/// ends with a line on standard error and exit code 1.
+/// Opens a black window for frames of that size, with the title set last. Where none can be opened the
+/// program ends with a line on standard error and exit code 1.
 void open(int width, int height);
 
 /// Titles the window; remembered when it is not open yet.
 void setTitle(const std::string& title);
 
-/// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once; only those rows differ
-/// from the frame shown before.
-void present(const Colour* pixels, Rows changed);
+/// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once. It differs from the one
+/// shown before in those stretches of rows alone, of which there is one at least, from the top down. The
+/// pixels stay as they are until the next call, for repaints.
+void present(const Colour* pixels, std::span<const Rows> changed);
 
 /// Seconds between two pictures of the display: no present is made sooner after the last.
 double framePeriod();

@@ -15,7 +15,6 @@ struct ScriptHost {
     double clock = 1000.0;
     double framePeriod = 0.0;
     long presents = 0;
-    Rows presented;  // since they were taken last
     long slept = 0;
     int dryWaits = 0;
     int frameWidth = 0;
@@ -46,8 +45,6 @@ void setFolder(const std::string& folder) { state.folder = folder; }
 void setFramePeriod(double seconds) { state.framePeriod = seconds; }
 const std::vector<Colour>& shownFrame() { return state.shown; }
 long presentCount() { return state.presents; }
-
-Rows takePresentedRows() { return std::exchange(state.presented, Rows{}); }
 const std::string& windowTitle() { return state.title; }
 const std::vector<std::string>& warnings() { return state.warnings; }
 long sleptMilliseconds() { return state.slept; }
@@ -62,18 +59,17 @@ namespace host {
 
 void open(int width, int height) {
     state.frameWidth = width;
-    state.shown.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
+    state.shown.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0xFF000000);
 }
 
 void setTitle(const std::string& title) { state.title = title; }
 
-void present(const Colour* pixels, Rows changed) {
+void present(const Colour* pixels, std::span<const Rows> changed) {
     // Only what was named: a row that changed unnamed stays old, and the tests see it.
-    const auto width = static_cast<std::ptrdiff_t>(state.frameWidth);
-    std::copy(pixels + width * changed.first, pixels + width * (changed.last + 1),
-              state.shown.begin() + width * changed.first);
+    for (const Rows rows : changed)
+        std::copy(pixels + state.frameWidth * rows.first, pixels + state.frameWidth * (rows.last + 1),
+                  state.shown.begin() + state.frameWidth * rows.first);
     ++state.presents;
-    state.presented = joined(state.presented, changed);
 }
 
 double framePeriod() { return state.framePeriod; }

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "platform/colour.h"
-#include "platform/geometry.h"
 #include "platform/input_queue.h"
 
 namespace gloomdeck::script {
@@ -42,14 +41,11 @@ void setFolder(const std::string& folder);
 /// How long the display shows a picture; 0 (as at the start) takes every present.
 void setFramePeriod(double seconds);
 
-/// The frame as the presents have named its rows (empty before the window opens), how many there were, and
-/// the window's title.
+/// What a display shows that takes only the rows that presents name (empty before the window opens), how many
+/// presents there were, and the window's title.
 const std::vector<Colour>& shownFrame();
 long presentCount();
 const std::string& windowTitle();
-
-/// The rows that the presents since the last call have named as changed, from the first to the last.
-Rows takePresentedRows();
 
 /// What a desktop would have on standard error.
 const std::vector<std::string>& warnings();

@@ -101,7 +101,7 @@ void setTitle(const std::string& title) {
     titleDesktopWindow(title);
 }
 
-void present(const Colour* pixels, Rows changed) { showFrame(pixels, changed); }
+void present(const Colour* pixels, std::span<const Rows> changed) { showFrame(pixels, changed); }
 
 double framePeriod() { return displayPeriod(); }
 

@@ -16,7 +16,6 @@ namespace {
 
 constexpr double commonPeriod = 1.0 / 60.0;
 constexpr int slowestRate = 10;  // pictures a second; a display that claims less does not know
-constexpr int rowsAtOnce = 8;    // few enough for the nearest memory
 constexpr int bytesPerPixel = sizeof(Colour);
 constexpr std::string_view placeTellingDriver = "x11";  // others answer with the place of the last event
 
@@ -24,8 +23,8 @@ SDL_Window* window = nullptr;
 SDL_Renderer* renderer = nullptr;  // only where the window has no surface that we can write to
 SDL_Texture* texture = nullptr;
 Extent frameSize;
-std::vector<Colour> shownPixels;
-double knownPeriod = 0;  // seconds; 0: not asked yet
+const Colour* shownPixels = nullptr;  // of the frame shown last
+double knownPeriod = 0;               // seconds; 0: not asked yet
 
 bool isSet(const char* variable) { return std::getenv(variable) != nullptr; }
 
@@ -131,16 +130,7 @@ Rows allRows() { return {0, frameSize.height - 1}; }
 
 Rect drawOn(const SDL_Surface* surface, const Rect& fit, Rows rows) {
     auto* const area = static_cast<Colour*>(surface->pixels);
-    return drawFitted(frameSize, shownPixels.data(), rows, fit, area, surface->pitch / bytesPerPixel);
-}
-
-Rows changed(const Colour* pixels, Rows rows) {
-    return changedRows(frameSize, rows, shownPixels.data(), pixels);
-}
-
-void keepShown(const Colour* pixels, Rows rows) {
-    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
-    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shownPixels.begin() + start);
+    return drawFitted(frameSize, shownPixels, rows, fit, area, surface->pitch / bytesPerPixel);
 }
 
 // The whole window, black around the picture.
@@ -148,26 +138,22 @@ void paintSurface() {
     SDL_Surface* surface = writableSurface();
     if (!surface) return;
     SDL_FillRect(surface, nullptr, 0);
-    drawOn(surface, fitFrame(frameSize, {surface->w, surface->h}), allRows());
+    if (shownPixels) drawOn(surface, fitFrame(frameSize, {surface->w, surface->h}), allRows());
     SDL_UpdateWindowSurface(window);
 }
 
-// A few rows at a time are compared, kept and drawn, while they are near at hand; a picture that is made
-// smaller is drawn from all of them.
-void paintChange(const Colour* pixels, Rows rows) {
+bool isSmallerThanFrame(const Rect& fit) {
+    return fit.x2 - fit.x1 + 1 < frameSize.width || fit.y2 - fit.y1 + 1 < frameSize.height;
+}
+
+// A picture that is made smaller is drawn from all rows.
+void paintChange(std::span<const Rows> changed) {
     SDL_Surface* surface = writableSurface();
-    if (!surface) return keepShown(pixels, rows);
+    if (!surface) return;
     const Rect fit = fitFrame(frameSize, {surface->w, surface->h});
-    const int step = fit.x2 - fit.x1 + 1 < frameSize.width ? frameSize.height : rowsAtOnce;
-    Rect drawn{fit.x1, fit.y2 + 1, fit.x2, fit.y1 - 1};
-    for (int first = rows.first; first <= rows.last; first += step) {
-        const Rows strip = changed(pixels, {first, std::min(first + step - 1, rows.last)});
-        if (strip.last < strip.first) continue;
-        keepShown(pixels, strip);
-        const Rect now = drawOn(surface, fit, strip);
-        drawn.y1 = std::min(drawn.y1, now.y1);
-        drawn.y2 = now.y2;
-    }
+    Rect drawn = drawOn(surface, fit, changed.front());
+    if (!isSmallerThanFrame(fit))
+        for (const Rows rows : changed.subspan(1)) drawn.y2 = drawOn(surface, fit, rows).y2;
     const SDL_Rect area = asSdl(drawn);
     SDL_UpdateWindowSurfaceRects(window, &area, 1);
 }
@@ -175,12 +161,13 @@ void paintChange(const Colour* pixels, Rows rows) {
 void paintRenderer() {
     const Rect fit = fitFrame(frameSize, drawingSize());
     const SDL_Rect picture = asSdl(fit);
-    const bool smaller = picture.w < frameSize.width || picture.h < frameSize.height;
-    SDL_SetTextureScaleMode(texture, smaller ? SDL_ScaleModeLinear : SDL_ScaleModeNearest);
-    SDL_UpdateTexture(texture, nullptr, shownPixels.data(), frameSize.width * bytesPerPixel);
+    SDL_SetTextureScaleMode(texture, isSmallerThanFrame(fit) ? SDL_ScaleModeLinear : SDL_ScaleModeNearest);
     SDL_SetRenderDrawColor(renderer, 0, 0, 0, SDL_ALPHA_OPAQUE);
     SDL_RenderClear(renderer);
-    SDL_RenderCopy(renderer, texture, nullptr, &picture);
+    if (shownPixels) {
+        SDL_UpdateTexture(texture, nullptr, shownPixels, frameSize.width * bytesPerPixel);
+        SDL_RenderCopy(renderer, texture, nullptr, &picture);
+    }
     SDL_RenderPresent(renderer);
 }
 
@@ -195,8 +182,6 @@ double askPeriod() {
 
 bool openDesktopWindow(Extent frame, const std::string& title) {
     frameSize = frame;
-    shownPixels.assign(static_cast<std::size_t>(frame.width) * static_cast<std::size_t>(frame.height),
-                       0xFF000000);
     setHints();
     if (SDL_Init(SDL_INIT_VIDEO) != 0) return false;
     refuseDrops();
@@ -216,12 +201,12 @@ void titleDesktopWindow(const std::string& title) {
     if (window) SDL_SetWindowTitle(window, title.c_str());
 }
 
-void showFrame(const Colour* pixels, Rows drawn) {
-    const Rows rows = changed(pixels, drawn);
-    if (rows.last < rows.first) return;
-    if (!renderer) return paintChange(pixels, rows);
-    keepShown(pixels, rows);
-    paintRenderer();
+void showFrame(const Colour* pixels, std::span<const Rows> changed) {
+    shownPixels = pixels;
+    if (renderer)
+        paintRenderer();
+    else
+        paintChange(changed);
 }
 
 void repaintWindow() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 
 #include "platform/colour.h"
@@ -16,10 +17,10 @@ void closeDesktopWindow();
 
 void titleDesktopWindow(const std::string& title);
 
-/// Shows what a frame changes, in those rows, and keeps it for repaints.
-void showFrame(const Colour* pixels, Rows drawn);
+/// Shows a frame that differs from the one before it in those rows; its pixels stay there for repaints.
+void showFrame(const Colour* pixels, std::span<const Rows> changed);
 
-/// Shows the kept frame (black before the first) and the black around it again.
+/// Shows the last frame (black before the first) and the black around it again.
 void repaintWindow();
 
 /// The frame's pixel under a place in the window, as pointer events give it; none beside the picture.

@@ -1,6 +1,5 @@
 // The host of the browser page: what the game asks of it, over the functions of host_web.js. Waits put the
 // game's stack aside, so that the browser can do its own work meanwhile.
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -44,19 +43,19 @@ static_assert(sizeof(Event) == 3 * sizeof(std::int32_t));
 constexpr int extendedKey = 0x100;  // a key code with the mark 255 in front
 
 Extent frameSize;
-std::vector<Colour> shown;
-std::vector<std::uint8_t> painted;  // the same as the canvas takes it: red, green, blue, alpha
+std::vector<std::uint8_t> painted;  // what is shown as the canvas takes it: red, green, blue, alpha
 double lastBreath = 0;
 void (*saveWhenLost)() = nullptr;
 
-void convertRows(Rows rows) {
+void convertRows(const Colour* pixels, Rows rows) {
     const auto width = static_cast<std::size_t>(frameSize.width);
     const std::size_t end = static_cast<std::size_t>(rows.last + 1) * width;
     for (std::size_t i = static_cast<std::size_t>(rows.first) * width; i < end; ++i) {
         std::uint8_t* const to = painted.data() + 4 * i;
-        to[0] = static_cast<std::uint8_t>(shown[i] >> 16);
-        to[1] = static_cast<std::uint8_t>(shown[i] >> 8);
-        to[2] = static_cast<std::uint8_t>(shown[i]);
+        to[0] = static_cast<std::uint8_t>(pixels[i] >> 16);
+        to[1] = static_cast<std::uint8_t>(pixels[i] >> 8);
+        to[2] = static_cast<std::uint8_t>(pixels[i]);
+        to[3] = 0xFF;
     }
 }
 
@@ -92,21 +91,15 @@ void breatheWhenDue() {
 
 void open(int width, int height) {
     frameSize = {width, height};
-    const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    shown.assign(pixels, 0);
-    painted.assign(4 * pixels, 0xFF);
+    painted.assign(4 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     gloomdeckOpen(width, height);
 }
 
 void setTitle(const std::string& title) { gloomdeckTitle(title.c_str()); }
 
-void present(const Colour* pixels, Rows changed) {
-    const Rows rows = changedRows(frameSize, changed, shown.data(), pixels);
-    if (rows.last < rows.first) return;
-    const std::ptrdiff_t start = std::ptrdiff_t{rows.first} * frameSize.width;
-    std::copy_n(pixels + start, (rows.last - rows.first + 1) * frameSize.width, shown.begin() + start);
-    convertRows(rows);
-    paintRows(rows);
+void present(const Colour* pixels, std::span<const Rows> changed) {
+    for (const Rows rows : changed) convertRows(pixels, rows);
+    paintRows({changed.front().first, changed.back().last});
 }
 
 double framePeriod() { return period; }

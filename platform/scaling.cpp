@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <iterator>
 
 namespace gloomdeck {
@@ -87,17 +86,6 @@ void shrink(const Colour* pixels, Extent frame, Extent picture, Colour* target, 
 }
 
 }  // namespace
-
-Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* now) {
-    const auto same = [&](int row) {
-        const std::ptrdiff_t at = std::ptrdiff_t{row} * frame.width;
-        return std::memcmp(before + at, now + at, static_cast<std::size_t>(frame.width) * sizeof(Colour)) ==
-               0;
-    };
-    while (rows.first <= rows.last && same(rows.first)) ++rows.first;
-    while (rows.last >= rows.first && same(rows.last)) --rows.last;
-    return rows;
-}
 
 int openingScale(Extent usable, double desktopScale) {
     const double share = desktopScale >= largeDesktop ? 1.0 : largestShare;

@@ -15,9 +15,6 @@ struct Extent {
     friend bool operator==(const Extent&, const Extent&) = default;
 };
 
-/// From the first to the last of those rows in which two frames differ; empty where they are the same.
-Rows changedRows(Extent frame, Rows rows, const Colour* before, const Colour* now);
-
 /// How many times its size (1 to 4) a window for the frame opens on a display with that much usable room.
 /// Twice where that, with a title bar, takes at most three quarters of it, or wherever it fits on a desktop
 /// that shows everything at 1.5 times its size or more; larger ones leave half the width and a third of the

@@ -1,4 +1,4 @@
-// How the frame fits the window, and which of its rows are drawn there.
+// How the frame fits the window.
 #include "platform/scaling.h"
 
 #include <gtest/gtest.h>
@@ -54,19 +54,6 @@ TEST(Scaling, PlacesMapBackToTheFramesPixelsAndNoFurther) {
     for (const Point out : {Point{41, 12}, Point{42, 11}, Point{858, 987}, Point{857, 988}})
         EXPECT_FALSE(framePixelAt(frame, twice, out.x, out.y)) << out.x << ", " << out.y;
     EXPECT_EQ(framePixelAt(frame, {0, 61, 299, 418}, 299, 418), (Point{406, 486}));
-}
-
-TEST(Scaling, ChangedRowsReachFromTheFirstToTheLastDifference) {
-    const auto changed = [](Rows rows, std::initializer_list<std::size_t> places) {
-        const Pixels before(12, 7);
-        Pixels now = before;
-        for (const std::size_t place : places) now[place] = 8;
-        return changedRows({3, 4}, rows, before.data(), now.data());
-    };
-    EXPECT_EQ(changed({0, 3}, {}), (Rows{4, 3})) << "none";
-    EXPECT_EQ(changed({0, 3}, {5}), (Rows{1, 1}));
-    EXPECT_EQ(changed({0, 3}, {5, 6}), (Rows{1, 2}));
-    EXPECT_EQ(changed({1, 3}, {0, 5, 11}), (Rows{1, 3}));
 }
 
 TEST(Scaling, EnlargedRowsAreHardBlocksAndShrunkPicturesAverageEveryPixel) {

@@ -1,5 +1,7 @@
 #include "rules/spells.h"
 
+#include "platform/geometry.h"
+
 #include "tests/support/game_test.h"
 
 namespace gloomdeck {
