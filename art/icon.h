@@ -9,4 +9,7 @@ inline constexpr int iconSizes[] = {16, 32, 48, 64, 128, 256};
 
 Canvas paintIcon(int size);
 
+// The icon on a ground that fills the square, so far inside that a system may cut the corners round.
+Canvas paintMaskableIcon(int size);
+
 }  // namespace gloomdeck::art
