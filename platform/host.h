@@ -18,6 +18,9 @@ void open(int width, int height);
 /// Titles the window; remembered when it is not open yet.
 void setTitle(const std::string& title);
 
+/// Says a text that the picture shows anyhow, to readers who do not see it; may do nothing.
+void tell(const std::string& text);
+
 /// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once; only those rows differ
 /// from the frame shown before.
 void present(const Colour* pixels, Rows changed);

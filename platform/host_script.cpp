@@ -20,6 +20,7 @@ struct ScriptHost {
     std::size_t framePixels = 0;
     std::string folder = ".";
     std::string title;
+    std::string told;
     std::vector<Colour> shown;
     script::Feeder idle;
     script::Feeder pausing;
@@ -47,6 +48,7 @@ long presentCount() { return state.presents; }
 
 Rows takePresentedRows() { return std::exchange(state.presented, Rows{}); }
 const std::string& windowTitle() { return state.title; }
+const std::string& toldText() { return state.told; }
 long sleptMilliseconds() { return state.slept; }
 void loseWindow() {
     if (state.save) state.save();
@@ -62,6 +64,8 @@ void open(int width, int height) {
 }
 
 void setTitle(const std::string& title) { state.title = title; }
+
+void tell(const std::string& text) { state.told = text; }
 
 void present(const Colour* pixels, Rows changed) {
     state.shown.assign(pixels, pixels + state.framePixels);

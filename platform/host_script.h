@@ -47,6 +47,9 @@ const std::vector<Colour>& shownFrame();
 long presentCount();
 const std::string& windowTitle();
 
+/// What was told last to readers who do not see the picture.
+const std::string& toldText();
+
 /// The rows that the presents since the last call have named as changed, from the first to the last.
 Rows takePresentedRows();
 

@@ -12,6 +12,7 @@
 extern "C" {
 void gloomdeckOpen(int width, int height);
 void gloomdeckTitle(const char* title);
+void gloomdeckTell(const char* text);
 void gloomdeckPaint(const std::uint8_t* pixels, int width, int firstRow, int rows);
 int gloomdeckTakeEvent(std::int32_t* event);
 double gloomdeckSeconds();
@@ -19,9 +20,9 @@ void gloomdeckSleep(int milliseconds);
 void gloomdeckAwaitInput(double milliseconds);
 void gloomdeckBreathe();
 void gloomdeckRest();
-void gloomdeckKeepFiles();
+void gloomdeckKeepRecords();
 void gloomdeckEnded();
-void gloomdeckLeave();
+void gloomdeckKeep();
 }
 
 namespace gloomdeck::host {
@@ -99,6 +100,8 @@ void open(int width, int height) {
 
 void setTitle(const std::string& title) { gloomdeckTitle(title.c_str()); }
 
+void tell(const std::string& text) { gloomdeckTell(text.c_str()); }
+
 void present(const Colour* pixels, Rows changed) {
     const Rows rows = changedRows(frameSize, changed, shown.data(), pixels);
     if (rows.last < rows.first) return;
@@ -138,15 +141,16 @@ std::string programFolder() { return "/gloomdeck"; }
 void onLost(void (*save)()) { saveWhenLost = save; }
 
 void end(int /*exitCode*/) {
-    gloomdeckKeepFiles();
+    gloomdeckKeepRecords();
     gloomdeckEnded();
     while (true) gloomdeckRest();
 }
 
 }  // namespace gloomdeck::host
 
-// Called from outside: the page is being left or hidden, and nothing may wait any more.
-void gloomdeckLeave() {
+// Called from outside, while the game waits: it rests, or the page is being left or hidden and nothing may
+// wait any more.
+void gloomdeckKeep() {
     if (gloomdeck::host::saveWhenLost != nullptr) gloomdeck::host::saveWhenLost();
-    gloomdeckKeepFiles();
+    gloomdeckKeepRecords();
 }

@@ -11,7 +11,10 @@ import { launch, Player } from './browser.mjs';
 import inputTests from './input.mjs';
 import keepingTests from './keeping.mjs';
 import pictureTests from './picture.mjs';
+import offlineTests from './offline.mjs';
 import playTests from './play.mjs';
+import poorTests from './poor.mjs';
+import travelTests from './travel.mjs';
 
 const [, pageFolder, pattern = ''] = process.argv.slice(2);
 const here = dirname(fileURLToPath(import.meta.url));
@@ -38,6 +41,12 @@ async function openContext(browser, address, options = {}) {
     await player.load();
     return player;
   };
+  open.elsewhere = async other => {
+    const player = new Player(await (await other.newContext({ viewport: { width: 1000, height: 900 } })).newPage(), address);
+    players.push(player);
+    await player.load();
+    return player;
+  };
   return { context, open, players };
 }
 
@@ -60,7 +69,8 @@ process.on('exit', () => rmSync(scratch, { recursive: true }));
 process.on('SIGTERM', () => process.exit(1));
 const address = await serve();
 const browser = await launch();
-for (const test of [...playTests, ...keepingTests, ...inputTests, ...pictureTests])
+const tests = [playTests, keepingTests, travelTests, inputTests, pictureTests, offlineTests, poorTests].flat();
+for (const test of tests)
   if (test.name.includes(pattern)) await run(test, browser, address);
 await browser.close();
 process.exit();
