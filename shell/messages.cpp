@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/draw.h"
+#include "platform/system.h"
 #include "shell/palette.h"
 #include "shell/panels.h"
 #include "shell/places.h"
@@ -29,6 +30,7 @@ void scrollIn(std::string_view line) {
     auto& lines = messageBar.lines;
     std::rotate(lines.begin(), lines.end() - 1, lines.end());
     lines.front() = line.substr(0, longestLine);
+    if (!line.empty()) tell(lines.front());
 }
 
 void drawBar() {
