@@ -3,6 +3,8 @@ import createGloomdeck from './gloomdeck.js';
 import { Input } from './input.js';
 
 const keepInterval = 1000; // milliseconds between two savings of a game that goes on
+const restsAfter = 10000; // milliseconds without input, from which on
+const restingWait = 2000; // milliseconds is the shortest wait: a blinking cursor is worth no more
 
 let compiled = null; // the module, once: playing again needs no network
 
@@ -24,6 +26,7 @@ class Host {
     this.timer = 0;
     this.keeping = 0; // the timer of the next saving
     this.lastKept = -keepInterval;
+    this.lastInput = performance.now();
     this.wasPlayed = false; // something has come in since the last saving
   }
 
@@ -45,6 +48,7 @@ class Host {
 
   takeEvent() {
     const event = this.input.events.shift();
+    if (event) this.lastInput = performance.now();
     this.wasPlayed ||= event !== undefined;
     return event;
   }
@@ -55,7 +59,7 @@ class Host {
       this.wakeUp = null;
       resume();
     };
-    this.timer = setTimeout(go, milliseconds);
+    this.timer = setTimeout(go, Math.ceil(milliseconds)); // a fraction would be dropped, and waited for once more
     return go;
   }
 
@@ -66,7 +70,8 @@ class Host {
       resume();
       return;
     }
-    this.wakeUp = this.wait(milliseconds, resume);
+    const rests = performance.now() - this.lastInput > restsAfter;
+    this.wakeUp = this.wait(rests ? Math.max(milliseconds, restingWait) : milliseconds, resume);
     this.saveSoon();
   }
 
