@@ -3,7 +3,8 @@
 set(GLOOMDECK_GFX ${PROJECT_SOURCE_DIR}/build/release/gfx CACHE PATH "the folder of the painted pictures")
 set(web_library ${PROJECT_SOURCE_DIR}/platform/host_web.js)
 
-add_executable(gloomdeck shell/main.cpp platform/host_web.cpp platform/files_web.cpp platform/pictures_web.cpp)
+enable_language(ASM)
+add_executable(gloomdeck shell/main.cpp platform/host_web.cpp platform/files_web.cpp platform/pictures_web.S)
 target_link_libraries(gloomdeck PRIVATE gloomdeck_game)
 
 # Nothing of ours throws, and unwinding would double the module.
@@ -23,5 +24,5 @@ target_link_options(gloomdeck PRIVATE
 set_target_properties(gloomdeck PROPERTIES LINK_DEPENDS ${web_library})
 
 file(GLOB web_pictures CONFIGURE_DEPENDS ${GLOOMDECK_GFX}/*.bmp)
-set_source_files_properties(platform/pictures_web.cpp PROPERTIES
-  COMPILE_DEFINITIONS GLOOMDECK_GFX="${GLOOMDECK_GFX}" OBJECT_DEPENDS "${web_pictures}")
+set_source_files_properties(platform/pictures_web.S PROPERTIES
+  COMPILE_OPTIONS "-I${GLOOMDECK_GFX}" OBJECT_DEPENDS "${web_pictures}")

@@ -1,18 +1,18 @@
 // Keeps one version of the page whole, so that it starts without a network: `kept`, set in front of this by the
 // build, names the version and the files with their check sums. A new version is fetched beside the old one and
 // taken up at the next start, once all of it is there; no start ever mixes two.
-/* global kept */
-const scope = registration.scope;
+const { scope } = registration;
 const family = `gloomdeck ${scope} `;
 const own = family + kept.version;
 
 // What the page has just loaded is not loaded again, unless it is another one than the check sum wants.
-async function fetchOne(cache, [name, integrity]) {
+async function fetchOne(store, [name, integrity]) {
   const address = new URL(name, scope);
   const first = name === './' ? 'no-cache' : 'force-cache';
-  const got = await fetch(address, { integrity, cache: first }).catch(() => fetch(address, { integrity, cache: 'reload' }));
+  const load = cache => fetch(address, { integrity, cache });
+  const got = await load(first).catch(() => load('reload'));
   if (!got.ok) throw new Error(`${address} answers ${got.status}`);
-  await cache.put(address, got);
+  await store.put(address, got);
 }
 
 async function fetchAll() {

@@ -12,7 +12,7 @@ int gloomdeckRecordSize(const char* name);
 void gloomdeckReadRecord(const char* name, std::uint8_t* to);
 void gloomdeckWriteRecord(const char* name, const std::uint8_t* from, int size);
 
-// Of pictures_web.cpp.
+// Of pictures_web.S.
 extern const std::uint8_t pictureTiles[], pictureTiles2[], pictureTiles3[], pictureTitle[];
 extern const std::uint8_t pictureTilesEnd[], pictureTiles2End[], pictureTiles3End[], pictureTitleEnd[];
 }
@@ -22,6 +22,7 @@ namespace gloomdeck {
 namespace {
 
 constexpr int noRecord = -1;
+constexpr int noLock = -1;
 
 struct Picture {
     std::string_view name;
@@ -74,8 +75,8 @@ void closeFile(File& file) {
     file = {};
 }
 
-FolderLock::FolderLock(const std::string& /*folder*/) : descriptor(-1) {}
-FolderLock::~FolderLock() = default;
+FolderLock::FolderLock(const std::string& /*folder*/) : descriptor(noLock) {}
+FolderLock::~FolderLock() { descriptor = noLock; }
 
 FilesTogether::FilesTogether(const std::vector<std::string>& /*paths*/) : lock({}) {}
 FilesTogether::~FilesTogether() = default;

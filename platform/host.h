@@ -38,8 +38,8 @@ void pump(InputQueue& queue);
 /// Sleeps for about that many milliseconds (0 to 100); a request to end the program cuts it short.
 void sleep(int milliseconds);
 
-/// Waits until input arrives, or for about that many seconds; may return early, and up to two seconds late where
-/// nothing has come in for long.
+/// Waits until input arrives, or for about that many seconds; may return early, and up to two seconds late
+/// where nothing has come in for long.
 void waitForInput(double seconds);
 
 /// Seconds on a monotonic clock whose start differs from run to run.

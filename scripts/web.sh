@@ -21,13 +21,12 @@ build_web() {
     stage_page "$top/dist/web" "$@"
 }
 
-# need_driver: what steers the browser, at the version that the lock names.
-need_driver() {
-    local folder="$top/tests/web"
+# need_modules FOLDER: what the lock there names, at the versions that it names.
+need_modules() {
     command -v npm >/dev/null || need_packages nodejs npm
-    [ "$folder/node_modules/.package-lock.json" -nt "$folder/package-lock.json" ] && return
-    (cd "$folder" && npm ci --no-audit --no-fund --ignore-scripts >&2) ||
-        die "playwright-core could not be installed (see above); with a network run: cd tests/web && npm ci"
+    [ "$1/node_modules/.package-lock.json" -nt "$1/package-lock.json" ] && return
+    (cd "$1" && npm ci --no-audit --no-fund --ignore-scripts >&2) ||
+        die "packages could not be installed (see above); with a network run: cd $1 && npm ci"
 }
 
 # test_page PATTERN: plays the page in a browser, and counts.

@@ -100,7 +100,10 @@ export class Player {
 
   // What the page's script lets be seen: the run of the game and the store.
   inside() {
-    return this.page.evaluateHandle(async () => (await import(document.querySelector('script[type="module"]').src)).page);
+    return this.page.evaluateHandle(async () => {
+      const { src } = document.querySelector('script[type="module"]');
+      return (await import(src)).page;
+    });
   }
 
   untilRunning() {
@@ -118,7 +121,8 @@ export class Player {
     const item = await this.page.evaluate(({ host }) => {
       host.save();
       const files = Object.entries(host.records);
-      return files.length > 0 && Object.fromEntries(files.map(([name, bytes]) => [name, btoa(String.fromCharCode(...bytes))]));
+      const encode = bytes => btoa(String.fromCharCode(...bytes));
+      return files.length > 0 && Object.fromEntries(files.map(([name, bytes]) => [name, encode(bytes)]));
     }, await this.inside());
     return item && new Saved(item);
   }
@@ -162,7 +166,8 @@ export class Player {
 
   // Clicks come before keys that were typed earlier, so the name must be there; no name before was as long.
   untilNamed(name) {
-    return until('the name', async () => [0xFFFF00, 0x696969].includes(await this.pixel(16 + 8 * name.length + 3, 182)));
+    const cursor = 16 + 8 * name.length + 3;
+    return until('the name', async () => [0xFFFF00, 0x696969].includes(await this.pixel(cursor, 182)));
   }
 
   // Past the title picture.
@@ -196,7 +201,8 @@ export class Player {
 
   // A part of the frame, to compare with itself.
   async look(x, y, width, height) {
-    return this.page.evaluate(([page, left, top, w, h]) => page.screen.frameContext.getImageData(left, top, w, h).data.join(),
+    return this.page.evaluate(
+      ([{ screen }, left, top, w, h]) => screen.frameContext.getImageData(left, top, w, h).data.join(),
       [await this.inside(), x, y, width, height]);
   }
 

@@ -42,7 +42,8 @@ async function openContext(browser, address, options = {}) {
     return player;
   };
   open.elsewhere = async other => {
-    const player = new Player(await (await other.newContext({ viewport: { width: 1000, height: 900 } })).newPage(), address);
+    const elsewhere = await other.newContext({ viewport: context.pages()[0].viewportSize() });
+    const player = new Player(await elsewhere.newPage(), address);
     players.push(player);
     await player.load();
     return player;

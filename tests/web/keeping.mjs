@@ -109,11 +109,12 @@ async function refused({ scratch, address }) {
   mkdirSync(join(profile, 'Default'), { recursive: true });
   const settings = { profile: { default_content_setting_values: { cookies: 2 } } };
   writeFileSync(join(profile, 'Default', 'Preferences'), JSON.stringify(settings));
-  const context = await chromium.launchPersistentContext(profile, { ...launchOptions, viewport: { width: 1000, height: 900 } });
+  const viewport = { width: 1000, height: 900 };
+  const context = await chromium.launchPersistentContext(profile, { ...launchOptions, viewport });
   try {
     const player = new Player(await context.newPage(), address);
     await player.load();
-    assert.equal(await player.page.evaluate(() => { try { return typeof localStorage; } catch { return 'refused'; } }), 'refused');
+    await assert.rejects(player.page.evaluate(() => typeof localStorage));
     await player.page.locator('#refused').waitFor({ state: 'visible' });
     await player.passTitle();
     await player.press('Enter');

@@ -4,7 +4,7 @@ import { execFileSync } from 'node:child_process';
 import { cpSync, readFileSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { decodePng, place, Player, playTwoTurns, returned, until } from './browser.mjs';
+import { decodePng, Player, playTwoTurns, returned, until } from './browser.mjs';
 
 const top = fileURLToPath(new URL('../..', import.meta.url));
 

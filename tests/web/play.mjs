@@ -7,14 +7,15 @@ import { place, until } from './browser.mjs';
 async function firstVisit({ open, pageFolder, address }) {
   const player = await open();
   await until('a picture', () => player.pixel(60, 60));
-  const origin = new URL(address).origin;
+  const { origin } = new URL(address);
   for (const url of player.requests) assert.ok(url.startsWith(origin), `asked for ${url}`);
   const sizes = await player.page.evaluate(() => performance.getEntriesByType('resource').concat(
     performance.getEntriesByType('navigation')).map(({ name, decodedBodySize }) => [name, decodedBodySize]));
   const sum = sizes.reduce((all, [, size]) => all + size, 0);
   const packed = sizes.map(([name]) => new URL(name).pathname.split('/').pop() || 'index.html')
     .reduce((all, name) => all + gzipSync(readFileSync(`${pageFolder}/${name}`), { level: 6 }).length, 0);
-  console.log(`a first visit loads ${sizes.length} files, ${Math.round(sum / 1000)} kB, ${Math.round(packed / 1000)} kB gzipped`);
+  const inKilobytes = bytes => `${Math.round(bytes / 1000)} kB`;
+  console.log(`a first visit loads ${sizes.length} files, ${inKilobytes(sum)}, ${inKilobytes(packed)} gzipped`);
   assert.ok(sum <= 300000, `${sum} bytes`);
   assert.equal(await player.stored(), null, 'kept something before anything was played');
 }

@@ -28,7 +28,8 @@ const sentence = page => page.locator('.notice:visible').first().innerText();
 
 // Whichever of its files is missing.
 async function missingFiles({ browser, address, pageFolder }) {
-  const needed = readdirSync(pageFolder).filter(name => /\.(js|pack)$/.test(name) && !['sw.js', 'start.js'].includes(name));
+  const isNeeded = name => /\.(js|pack)$/.test(name) && !['sw.js', 'start.js'].includes(name);
+  const needed = readdirSync(pageFolder).filter(isNeeded);
   assert.ok(needed.length > 8);
   for (const name of needed) {
     const context = await browser.newContext();

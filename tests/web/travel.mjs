@@ -1,6 +1,6 @@
 // The game on its way to another browser and back: as one file, as two, as a link.
 import assert from 'node:assert/strict';
-import { readFileSync, writeFileSync } from 'node:fs';
+import { writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { toFile } from '../../page/records.js';
 import { fileOf, place, playTwoTurns, returned, until } from './browser.mjs';
@@ -114,7 +114,7 @@ async function wildRecords({ open, scratch }) {
 }
 
 // Sent to somebody else, who has a game too.
-async function link({ open, browser, address }) {
+async function toAFriend({ open, browser, address }) {
   const player = await openRich(open);
   await playTwoTurns(player);
   await openTravel(player);
@@ -157,6 +157,6 @@ export default [
   { name: 'the game goes out as two files and comes back', run: twoFiles },
   { name: 'files that are none of ours are refused', run: junkFiles },
   { name: 'whatever a file holds, the game plays on', run: wildRecords },
-  { name: 'a link takes the game to another browser', run: link },
+  { name: 'a link takes the game to another browser', run: toAFriend },
   { name: 'a link that unpacks to too much is refused', run: linkBomb },
 ];
