@@ -33,7 +33,7 @@ function noteResult(result) {
 
 function offerNewer() {
   say('newer', 'Another tab has gone on with this game. What is played here is not kept meanwhile.', [
-    ['Go on from there', () => begin(page.store.read())],
+    ['Go on from there', async () => begin(await page.store.read())],
     ['Keep this one instead', () => { page.store.replace(page.host.records); }],
   ]);
 }
@@ -93,8 +93,8 @@ async function begin(records) {
 }
 
 // Another page may have kept a later game; without storage this page's own is all there is.
-function playAgain() {
-  begin(page.store.works ? page.store.read() : page.host.records);
+async function playAgain() {
+  begin(page.store.works ? await page.store.read() : page.host.records);
 }
 
 // What the page needs without a network. It is of no use, and not there, where the page is not safe from others.
@@ -109,7 +109,7 @@ async function start() {
   offerTyping(key => page.host?.typeKey(key));
   at('again').addEventListener('click', playAgain);
   page.store = new Store(location.pathname.replace(/index\.html$/, ''), noteResult);
-  const records = page.store.read();
+  const records = await page.store.read();
   offerDamaged();
   await begin(records);
   offerTravel({ records: currentRecords, begin, store: page.store });

@@ -1,5 +1,6 @@
 // The game in the browser's storage. Both files are one item, so that two pages never mix theirs, and no page
 // overwrites what another one has kept since without being asked to.
+import { Journal } from './journal.js';
 import { fromItem, isSameButForScreen, toItem } from './records.js';
 
 const usualItem = 800; // characters
@@ -8,6 +9,7 @@ export class Store {
   // onResult is told, whenever something was to be kept, 'kept', 'refused', 'full' or 'newer'.
   constructor(path, onResult) {
     this.key = `gloomdeck:${path}`;
+    this.journal = new Journal(this.key);
     this.onResult = onResult;
     this.works = true;
     this.kept = null; // what this page read or wrote last
@@ -37,10 +39,23 @@ export class Store {
     localStorage.removeItem(`${this.key}?`);
   }
 
-  // The records that are kept, if any, and an item that should have been some but is not.
-  read() {
+  // How often anything was kept here: of two items the later one has the higher count.
+  count() { return Number(localStorage.getItem(`${this.key}#`)); }
+
+  // After a crash the journal is ahead.
+  async recover() {
+    const last = await this.journal.read();
+    if (!last || last.count <= this.count()) return;
+    if (last.text === null) localStorage.removeItem(this.key);
+    else localStorage.setItem(this.key, last.text);
+    localStorage.setItem(`${this.key}#`, last.count);
+  }
+
+  /// The records that are kept, if any; an item that should have been some but is not is set aside.
+  async read() {
     let text = null;
     try {
+      await this.recover();
       text = localStorage.getItem(this.key);
       this.probe(text);
       this.works = true;
@@ -67,16 +82,18 @@ export class Store {
   /// Whatever is kept there now, these take its place; none stands for nothing kept.
   replace(records) {
     try {
-      if (records) this.write(toItem(records));
-      else localStorage.removeItem(this.key);
-      this.kept = records && toItem(records);
+      this.write(records && toItem(records));
     } catch (error) {
       this.fail(error);
     }
   }
 
   write(text) {
-    localStorage.setItem(this.key, text);
+    const count = this.count() + 1;
+    if (text === null) localStorage.removeItem(this.key);
+    else localStorage.setItem(this.key, text);
+    localStorage.setItem(`${this.key}#`, count);
+    this.journal.write(text, count);
     this.kept = text;
     this.works = true;
     this.onResult('kept');
@@ -87,8 +104,7 @@ export class Store {
   setAside(text) {
     this.damaged = text;
     try {
-      localStorage.removeItem(this.key);
-      this.kept = null;
+      this.write(null);
       localStorage.setItem(`${this.key}!`, text);
     } catch {
       // it lasts as long as this page then

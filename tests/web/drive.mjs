@@ -66,7 +66,7 @@ async function run(test, browser, address) {
   }
 }
 
-process.on('exit', () => rmSync(scratch, { recursive: true }));
+process.on('exit', () => rmSync(scratch, { recursive: true, maxRetries: 5 }));
 process.on('SIGTERM', () => process.exit(1));
 const address = await serve();
 const browser = await launch();

@@ -1,6 +1,8 @@
 // What the browser keeps of a game, and the game as files.
 import assert from 'node:assert/strict';
-import { mkdirSync, writeFileSync } from 'node:fs';
+import { spawn } from 'node:child_process';
+import { once } from 'node:events';
+import { existsSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { chromium } from 'playwright-core';
 import { fileOf, launchOptions, place, Player, playTwoTurns, returned, until } from './browser.mjs';
@@ -73,6 +75,38 @@ async function crash({ open, context, address }) {
   const next = new Player(await context.newPage(), address);
   await next.load();
   assert.equal((await next.stored()).turns, start.turns + 7);
+}
+
+// The browser with all that it has not brought to the disk yet.
+async function crashOfTheBrowser({ scratch, address }) {
+  const { executablePath, args } = launchOptions;
+  const profile = join(scratch, 'killed');
+  const start = async () => {
+    rmSync(join(profile, 'DevToolsActivePort'), { force: true });
+    const flags = [...args, '--headless', '--remote-debugging-port=0', `--user-data-dir=${profile}`];
+    const program = spawn(executablePath, flags, { stdio: 'ignore' });
+    await until('the browser', () => existsSync(join(profile, 'DevToolsActivePort')));
+    const [port, path] = readFileSync(join(profile, 'DevToolsActivePort'), 'utf8').split('\n');
+    const browser = await chromium.connectOverCDP(`ws://127.0.0.1:${port}${path}`);
+    const player = new Player(await browser.contexts()[0].newPage(), address);
+    await player.load();
+    return { program, player };
+  };
+  const { program, player } = await start();
+  await player.startScenario();
+  await player.resume((await player.now()).fillWithGold());
+  const before = (await player.stored()).turns;
+  for (const [col, pause] of [[0, 1000], [1, 6000], [2, 1000], [3, 1500]]) {
+    await player.click(place.board(col));
+    await new Promise(resolve => setTimeout(resolve, pause));
+  }
+  program.kill('SIGKILL');
+  await once(program, 'exit');
+  const again = await start();
+  const after = (await again.player.stored()).turns;
+  again.program.kill();
+  await once(again.program, 'exit');
+  assert.equal(after - before, 4);
 }
 
 // Leaves the storage that many characters.
@@ -158,6 +192,7 @@ export default [
   { name: 'a reload and a closed tab go on with the same board', run: reloadAndClosedTab },
   { name: 'of two tabs none undoes what the other one played', run: twoTabs },
   { name: 'a crash costs the last second at most', run: crash },
+  { name: 'a crash of the whole browser costs no more', run: crashOfTheBrowser },
   { name: 'storage with room for half a game is noticed', run: fullStorage },
   { name: 'where storage is refused the game plays and the page says so', run: refused },
   { name: 'an item that is not ours starts afresh and can be saved', run: damagedItems },

@@ -3,8 +3,8 @@ import js from '@eslint/js';
 
 const browser = [
   'addEventListener', 'atob', 'btoa', 'caches', 'clearTimeout', 'console', 'devicePixelRatio', 'document',
-  'fetch', 'history', 'innerWidth', 'localStorage', 'location', 'matchMedia', 'navigator', 'performance',
-  'registration', 'sessionStorage', 'setTimeout', 'skipWaiting', 'window', 'AbortController', 'Blob',
+  'fetch', 'history', 'indexedDB', 'innerWidth', 'localStorage', 'location', 'matchMedia', 'navigator', 'performance',
+  'registration', 'scrollTo', 'scrollY', 'sessionStorage', 'setTimeout', 'skipWaiting', 'window', 'AbortController', 'Blob',
   'CompressionStream', 'DecompressionStream', 'ImageData', 'MessageChannel', 'Request', 'Response',
   'TextDecoder', 'TextEncoder', 'URL', 'URLSearchParams', 'WebAssembly', 'CanvasRenderingContext2D',
   'KeyboardEvent', 'getComputedStyle', 'innerHeight',
