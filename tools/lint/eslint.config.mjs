@@ -3,11 +3,11 @@ import js from '@eslint/js';
 
 const browser = [
   'addEventListener', 'atob', 'btoa', 'caches', 'clearTimeout', 'console', 'devicePixelRatio', 'document',
-  'fetch', 'history', 'indexedDB', 'innerWidth', 'localStorage', 'location', 'matchMedia', 'navigator', 'performance',
-  'registration', 'scrollTo', 'scrollY', 'sessionStorage', 'setTimeout', 'skipWaiting', 'window', 'AbortController', 'Blob',
-  'CompressionStream', 'DecompressionStream', 'ImageData', 'MessageChannel', 'Request', 'Response',
-  'TextDecoder', 'TextEncoder', 'URL', 'URLSearchParams', 'WebAssembly', 'CanvasRenderingContext2D',
-  'KeyboardEvent', 'getComputedStyle', 'innerHeight',
+  'fetch', 'history', 'indexedDB', 'innerWidth', 'localStorage', 'location', 'matchMedia', 'navigator',
+  'performance', 'registration', 'scrollTo', 'scrollY', 'sessionStorage', 'setTimeout', 'skipWaiting', 'window',
+  'AbortController', 'Blob', 'CompressionStream', 'DecompressionStream', 'ImageData', 'MessageChannel',
+  'Request', 'Response', 'TextDecoder', 'TextEncoder', 'URL', 'URLSearchParams', 'WebAssembly',
+  'CanvasRenderingContext2D', 'KeyboardEvent', 'getComputedStyle', 'innerHeight',
 ];
 const node = ['process', 'Buffer', 'console', 'setTimeout', 'URL'];
 const library = ['mergeInto', 'LibraryManager', 'Module', 'Asyncify', 'UTF8ToString', 'HEAPU8', 'HEAP32'];
