@@ -30,6 +30,7 @@ TEST_F(MessagesTest, FourMessagesStandTheNewestBelowInYellowAndAnEmptyTextOnlyRe
     EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"", "four", "three", "two"}));
     ShowMessage("  " + std::string(60, 'x'), 0);
     EXPECT_EQ(newestMessage(), std::string(47, 'x'));
+    EXPECT_EQ(script::toldText(), newestMessage()) << "readers who do not see it are told";
     EXPECT_TRUE(textStandsAt(16, 375, newestMessage(), colour::yellow));
     EXPECT_TRUE(textStandsAt(16, 355, "four", colour::text));
     EXPECT_TRUE(textStandsAt(16, 345, "three", colour::text));

@@ -113,8 +113,10 @@ TEST_F(MouseTest, HoverDescribesAndLeavesCleanAlsoWhenItJumpsBetweenTheGridsUnti
     drawBoard();
     moveTo(boardCell(2, 5));
     EXPECT_TRUE(describes("Skeleton"));
+    EXPECT_EQ(script::toldText(), "Skeleton");
     moveTo(statsCell(gold));
     EXPECT_TRUE(describes("Gold: "));
+    EXPECT_TRUE(script::toldText().starts_with("Gold: "));
     EXPECT_EQ(widget(id::board).hoverCol, -1);
     moveTo(boardCell(2, 5));
     EXPECT_TRUE(describes("Skeleton"));

@@ -8,6 +8,7 @@ import { tmpdir } from 'node:os';
 import { dirname, join, resolve } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { launch, Player } from './browser.mjs';
+import firefoxTests from './firefox.mjs';
 import inputTests from './input.mjs';
 import keepingTests from './keeping.mjs';
 import pictureTests from './picture.mjs';
@@ -52,6 +53,10 @@ async function openContext(browser, address, options = {}) {
 }
 
 async function run(test, browser, address) {
+  if (test.skip) {
+    console.log(`SKIP ${test.name}: ${test.skip}`);
+    return;
+  }
   const stage = await openContext(browser, address, test.options);
   try {
     await test.run({ ...stage, browser, address, pageFolder, scratch });
@@ -70,7 +75,8 @@ process.on('exit', () => rmSync(scratch, { recursive: true, maxRetries: 5 }));
 process.on('SIGTERM', () => process.exit(1));
 const address = await serve();
 const browser = await launch();
-const tests = [playTests, keepingTests, travelTests, inputTests, pictureTests, offlineTests, poorTests].flat();
+const tests = [playTests, keepingTests, travelTests, inputTests, pictureTests, offlineTests, poorTests,
+  firefoxTests].flat();
 for (const test of tests)
   if (test.name.includes(pattern)) await run(test, browser, address);
 await browser.close();

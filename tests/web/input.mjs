@@ -111,8 +111,12 @@ async function otherReaders({ open }) {
   await until('the description', async () => await told.textContent() === 'Gold');
   await page.mouse.move(...await player.at(place.stats(3)));
   await until('the item', async () => /^Shield.*: ./.test(await told.textContent()));
-  await player.press('Shift+R');
+  await page.mouse.move(1, 1);
   await player.settle();
+  const board = () => player.look(100, 180, 200, 100);
+  const unasked = await board();
+  await player.press('Shift+R');
+  await until('the question', async () => await board() !== unasked);
   await player.press('y');
   await until('the message', async () => (await told.textContent()).startsWith('Click on the bottom row'));
   await page.setViewportSize({ width: 1000, height: 560 });
