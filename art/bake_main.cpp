@@ -40,6 +40,16 @@ void bakeIcons(const fs::path& folder) {
     write(folder / "scalable" / "apps" / "gloomdeck.svg", svgFile(paintIcon(finestIcon)));
 }
 
+// For the browser page: of a tab, of a phone's home screen, of an installed page, and its preview.
+void bakePageIcons(const fs::path& folder) {
+    write(folder / "icon.png", pngFile(paintIcon(32)));
+    write(folder / "icon-192.png", pngFile(paintIcon(192)));
+    write(folder / "icon-512.png", pngFile(paintIcon(512)));
+    write(folder / "icon-maskable.png", pngFile(paintMaskableIcon(512)));
+    write(folder / "icon-apple.png", pngFile(paintMaskableIcon(180)));
+    write(folder / "preview.png", pngFile(paintPreview()));
+}
+
 void bakeWindowIcon(const fs::path& file) {
     constexpr int size = 64;
     const Canvas icon = paintIcon(size);
@@ -67,6 +77,8 @@ void bakeSheets(const fs::path& folder) {
 bool bake(const std::string& option, const std::string& target) {
     if (option == "--icons") {
         bakeIcons(target);
+    } else if (option == "--page-icons") {
+        bakePageIcons(target);
     } else if (option == "--window-icon") {
         bakeWindowIcon(target);
     } else if (option == "--sheet") {
@@ -97,7 +109,9 @@ int main(int argc, char** argv) {
     try {
         if (gloomdeck::art::run(argc, argv)) return 0;
         std::fputs(
-            "usage: artbake FOLDER | --icons FOLDER | --window-icon FILE | --sheet FOLDER | --hashes\n",
+            "usage: artbake FOLDER | --icons FOLDER | --page-icons FOLDER | --window-icon FILE | --sheet "
+            "FOLDER | "
+            "--hashes\n",
             stderr);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "artbake: %s\n", failure.what());

@@ -70,11 +70,21 @@ Canvas byHand() {
     return t.outline(1, false);
 }
 
+constexpr Colour groundColour = 0x1d2b27;
+constexpr double cutSafe = .68;  // of the square's side
+
 }  // namespace
 
 Canvas paintIcon(int size) {
     if (size == 16) return byHand();
     return size >= 128 ? grand(size) : plain(size);
+}
+
+Canvas paintMaskableIcon(int size) {
+    Canvas t(size, size);
+    t.fill(box(0, 0, size, size), groundColour);
+    const int inner = static_cast<int>(size * cutSafe);
+    return t.lay(grand(inner), (size - inner) / 2, (size - inner) / 2);
 }
 
 }  // namespace gloomdeck::art

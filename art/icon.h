@@ -10,4 +10,7 @@ inline constexpr int finestIcon = 256;  // the scalable one is drawn like it
 
 Canvas paintIcon(int size);
 
+// The icon on a ground that fills the square, so far inside that a system may cut the corners round.
+Canvas paintMaskableIcon(int size);
+
 }  // namespace gloomdeck::art

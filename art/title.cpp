@@ -110,4 +110,20 @@ Canvas paintTitle() {
     return p;
 }
 
+Canvas paintPreview() {
+    constexpr int width = previewWidth / 2, height = previewHeight / 2, aside = (width - titleWidth) / 2;
+    Canvas small(width, height, 1, -aside, 0);
+    titleWall(small);
+    for (int y = 0; y < height;
+         ++y) {  // the wall begins with the title, so that its left side is the other one's
+        for (int x = 0; x < aside; ++x) small.set(x, y, small.colour(width - 1 - x, y));
+    }
+    small.lay(paintTitle(), aside, 0);
+    Canvas p(previewWidth, previewHeight);
+    for (int y = 0; y < previewHeight; ++y) {
+        for (int x = 0; x < previewWidth; ++x) p.set(x, y, small.colour(x / 2, y / 2));
+    }
+    return p;
+}
+
 }  // namespace gloomdeck::art

@@ -9,6 +9,10 @@ inline constexpr int titleWidth = 408, titleHeight = 488;
 
 Canvas paintTitle();
 
+// The same for where the game's page is linked: wide, and of that size whatever is shown there.
+inline constexpr int previewWidth = 1200, previewHeight = 630;
+Canvas paintPreview();
+
 // What it is made of, back to front, on units of its pixels.
 inline constexpr double titleMiddle = titleWidth / 2.0;
 void titleWall(Canvas& p);

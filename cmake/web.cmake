@@ -3,7 +3,8 @@
 set(GLOOMDECK_GFX ${PROJECT_SOURCE_DIR}/build/release/gfx CACHE PATH "the folder of the painted pictures")
 set(web_library ${PROJECT_SOURCE_DIR}/platform/host_web.js)
 
-add_executable(gloomdeck shell/main.cpp platform/host_web.cpp)
+enable_language(ASM)
+add_executable(gloomdeck shell/main.cpp platform/host_web.cpp platform/files_web.cpp platform/pictures_web.S)
 target_link_libraries(gloomdeck PRIVATE gloomdeck_game)
 
 # Nothing of ours throws, and unwinding would double the module.
@@ -14,11 +15,14 @@ target_link_options(gloomdeck PRIVATE
   -fno-exceptions
   -sASYNCIFY -sASYNCIFY_STACK_SIZE=16384
   -sASYNCIFY_IMPORTS=gloomdeckSleep,gloomdeckAwaitInput,gloomdeckBreathe,gloomdeckRest
-  -sMODULARIZE -sEXPORT_NAME=createGloomdeck
+  -sMODULARIZE -sEXPORT_ES6 -sUSE_ES6_IMPORT_META=0 -sEXPORT_NAME=createGloomdeck
   -sENVIRONMENT=web -sALLOW_MEMORY_GROWTH
-  -sEXPORTED_FUNCTIONS=_main,_gloomdeckLeave
-  --js-library ${web_library}
-  --embed-file ${GLOOMDECK_GFX}@/gloomdeck/gfx)
+  -sFILESYSTEM=0
+  -sEXPORTED_FUNCTIONS=_main,_gloomdeckKeep
+  -sINCOMING_MODULE_JS_API=host,instantiateWasm,onAbort
+  --js-library ${web_library})
+set_target_properties(gloomdeck PROPERTIES LINK_DEPENDS ${web_library})
 
 file(GLOB web_pictures CONFIGURE_DEPENDS ${GLOOMDECK_GFX}/*.bmp)
-set_target_properties(gloomdeck PROPERTIES LINK_DEPENDS "${web_library};${web_pictures}")
+set_source_files_properties(platform/pictures_web.S PROPERTIES
+  COMPILE_OPTIONS "-I${GLOOMDECK_GFX}" OBJECT_DEPENDS "${web_pictures}")

@@ -1,202 +1,119 @@
-// The page around the game: how large the picture is, starting and starting again, the game as files, and
-// the on-screen keyboard.
-'use strict';
-
-const frame = { width: 408, height: 488 };
-const roomForWords = { beside: 330, below: 260 }; // CSS pixels
-const fileNames = ['DGDP.dat', 'DGDG.dat'];
-const fileSizes = [484, 52]; // bytes at least
-const largestFile = 65536; // bytes
-const fillKey = 'gloomdeck-page:' + location.pathname.replace(/index\.html$/, '');
-const typingMark = '\u00A0'; // stands in the field, so that a phone's Backspace has something to delete
+// The page around the game: starting it and starting it again, keeping it, and saying what happened.
+import { startGame } from './host.js';
+import { layOut } from './layout.js';
+import { say, unsay } from './notices.js';
+import { Screen } from './screen.js';
+import { Store } from './store.js';
+import { noteGame, offerTravel, saveAsFile, saveText } from './travel.js';
+import { offerTyping } from './typing.js';
 
 const at = id => document.getElementById(id);
-const canvas = at('screen');
+const screen = new Screen(at('screen'));
+const moduleAddress = document.querySelector('link[rel="preload"]').href;
 
-let module = null;
-let storageWorks = true;
-let fills = false;
+const takeAway = [['Save it as a file', saveAsFile], ['Close', () => {}]];
+const troubles = {
+  refused: 'This browser lets the page store nothing: your game lasts as long as the page, or take it away as a file.',
+  full: 'The browser’s storage is full: your game is not kept any more. Take it away as a file before you leave.',
+};
+const saidOnce = new Set();
 
-// The picture's size.
+/// What the tests look into: the run of the game that is on, where it is kept, and the canvas.
+export const page = { host: null, store: null, screen };
 
-function roomInDevicePixels() {
-  const page = document.documentElement;
-  const ratio = devicePixelRatio;
-  return { width: Math.floor(page.clientWidth * ratio + 0.01), height: Math.floor(page.clientHeight * ratio + 0.01) };
+// Keeping.
+
+function noteResult(result) {
+  if (result === 'kept') ['refused', 'full', 'newer'].forEach(unsay);
+  if (result === 'newer') offerNewer();
+  if (!troubles[result] || saidOnce.has(result)) return;
+  saidOnce.add(result);
+  say(result, troubles[result], takeAway);
 }
 
-// The largest whole number of device pixels for each of the frame's; less than one only where none fits.
-function scaleFor(room) {
-  const largest = Math.min(room.width / frame.width, room.height / frame.height);
-  return { whole: largest >= 1 ? Math.floor(largest) : largest, largest };
+function offerNewer() {
+  say('newer', 'Another tab has gone on with this game. What is played here is not kept meanwhile.', [
+    ['Go on from there', async () => begin(await page.store.read())],
+    ['Keep this one instead', () => { page.store.replace(page.host.records); }],
+  ]);
 }
 
-function layOut(width, height) {
-  const page = document.documentElement;
-  const beside = page.clientWidth - width;
-  const below = page.clientHeight - height;
-  const isBeside = below < roomForWords.below && beside >= roomForWords.beside;
-  document.body.classList.toggle('beside', isBeside);
-  document.body.classList.toggle('low', below < 90);
-  document.body.classList.toggle('tight', !isBeside && below < 130);
+function keep(records) {
+  noteGame(records);
+  page.store.put(records);
 }
 
-function fitPicture() {
-  const { whole, largest } = scaleFor(roomInDevicePixels());
-  const scale = fills ? largest : whole;
-  const inCss = length => length * scale / devicePixelRatio;
-  const width = inCss(frame.width);
-  const height = inCss(frame.height);
-  canvas.style.width = `${width}px`;
-  canvas.style.height = `${height}px`;
-  canvas.classList.toggle('smooth', scale < 1);
-  at('size').hidden = largest / whole < 1.1;
-  at('size').textContent = fills ? 'Sharpest picture' : 'Largest picture';
-  layOut(width, height);
+// The records as they are now; none before the game has any.
+function currentRecords() {
+  page.host?.save();
+  const records = page.host?.records ?? {};
+  return Object.keys(records).length > 0 ? records : null;
 }
 
-function watchDensity() {
-  const query = matchMedia(`(resolution: ${devicePixelRatio}dppx)`);
-  query.addEventListener('change', () => { fitPicture(); watchDensity(); }, { once: true });
-}
-
-function changeFilling() {
-  fills = !fills;
-  try {
-    localStorage.setItem(fillKey, fills ? 'largest' : 'sharpest');
-  } catch {
-    // it lasts as long as the page then
-  }
-  fitPicture();
-  canvas.focus({ preventScroll: true });
-}
-
-function rememberFilling() {
-  try {
-    fills = localStorage.getItem(fillKey) === 'largest';
-  } catch {
-    fills = false;
-  }
+function offerDamaged() {
+  const text = page.store.damagedItem();
+  if (text === null) return;
+  say('damaged', 'The game that this browser kept is damaged, and a new one starts. What is left of it can be saved.', [
+    ['Save it as a file', () => saveText('Gloomdeck damaged.txt', text)],
+    ['Forget it', () => page.store.forgetDamagedItem()],
+  ]);
 }
 
 // The game's life.
 
-function say(id, text) {
-  at(id).textContent = text;
-  at(id).hidden = text === '';
-}
-
-function showFault() {
+function showFault(error) {
+  console.warn(error);
+  page.host?.halt();
   at('loading').hidden = true;
-  say('fault', 'The game could not go on. Load the page again; where that does not help, its files are missing.');
-}
-
-function noteStorage(works) {
-  storageWorks = works;
-  at('refused').hidden = works;
+  say('fault', 'The game could not go on. Load the page again; where that does not help, its files are missing.', []);
 }
 
 function showEnd() {
-  say('kept', storageWorks ? 'It is kept, and goes on where you left it.' : 'It lasts as long as this page.');
+  const { works } = page.store;
+  at('kept').textContent = works ? 'It is kept, and goes on where you left it.' : 'It lasts as long as this page.';
   at('ended').hidden = false;
   at('again').focus();
 }
 
-// Files given take the place of those that the browser keeps.
-function start(files) {
-  module = null;
+async function begin(records) {
+  page.host?.halt();
+  page.host = null;
   at('ended').hidden = true;
-  canvas.focus({ preventScroll: true });
-  const locateFile = () => document.querySelector('link[rel="preload"]').href;
-  createGloomdeck({ canvas, files, locateFile, onEnded: showEnd, onStorage: noteStorage, onAbort: showFault })
-    .then(made => { module = made; at('loading').hidden = true; }, showFault);
+  at('told').textContent = '';
+  screen.canvas.focus({ preventScroll: true });
+  try {
+    page.host = await startGame(moduleAddress, {
+      screen, records, onKeep: keep, onTold: text => { at('told').textContent = text; }, onEnded: showEnd,
+      onFault: showFault,
+    });
+    at('loading').hidden = true;
+  } catch (error) {
+    showFault(error);
+  }
 }
 
 // Another page may have kept a later game; without storage this page's own is all there is.
-function playAgain() {
-  start(storageWorks ? null : module.game.files());
+async function playAgain() {
+  begin(page.store.works ? await page.store.read() : page.host.records);
 }
 
-// The game as files.
-
-function offerFiles() {
-  module?.game.leave();
-  const files = module && module.game.files();
-  at('nofiles').hidden = files !== null;
-  fileNames.forEach((name, i) => {
-    const link = at(`file${i}`);
-    URL.revokeObjectURL(link.href);
-    if (files) link.href = URL.createObjectURL(new Blob([files[name]], { type: 'application/octet-stream' }));
-    else link.removeAttribute('href');
-  });
+// What the page needs without a network. It is of no use, and not there, where the page is not safe from others.
+function keepPage() {
+  navigator.serviceWorker?.register('sw.js', { updateViaCache: 'none' }).catch(() => {});
 }
 
-// By the ends of their names: a browser that has one already saves "DGDP (1).dat".
-async function readTaken(list) {
-  const files = {};
-  for (const [i, name] of fileNames.entries()) {
-    const file = [...list].find(one => one.name.toUpperCase().startsWith(name.slice(0, 4)));
-    if (!file) throw new Error(`Choose both files together; ${name} is missing.`);
-    files[name] = new Uint8Array(await file.arrayBuffer());
-    const { length } = files[name];
-    if (length < fileSizes[i] || length > largestFile)
-      throw new Error(`${file.name} is not ours: it has ${length} bytes.`);
-  }
-  return files;
+async function start() {
+  if (at('loading').classList.contains('notice')) return; // start.js has said why not
+  window.addEventListener('error', ({ error }) => { if (error instanceof WebAssembly.RuntimeError) showFault(error); });
+  layOut(screen);
+  offerTyping(key => page.host?.typeKey(key));
+  at('again').addEventListener('click', playAgain);
+  page.store = new Store(location.pathname.replace(/index\.html$/, ''), noteResult);
+  const records = await page.store.read();
+  offerDamaged();
+  await begin(records);
+  offerTravel({ records: currentRecords, begin, store: page.store });
+  keepPage();
 }
 
-async function takeFiles(event) {
-  try {
-    const files = await readTaken(event.target.files);
-    module?.game.halt();
-    at('files').open = false;
-    say('takenbad', '');
-    start(files);
-  } catch (error) {
-    say('takenbad', error.message);
-  }
-  event.target.value = '';
-}
-
-// The on-screen keyboard: what the field has taken for good goes to the game.
-
-function resetTyping() {
-  at('typed').value = typingMark;
-  at('typed').setSelectionRange(1, 1);
-}
-
-function passTyping(event) {
-  if (event.isComposing) return;
-  const text = at('typed').value;
-  if (!text.includes(typingMark)) module?.game.typeKey('Backspace', false);
-  for (const character of text.replace(typingMark, '')) module?.game.typeKey(character, false);
-  resetTyping();
-}
-
-function passTypingKey(event) {
-  if (event.isComposing || !['Enter', 'Escape'].includes(event.key)) return;
-  event.preventDefault();
-  module?.game.typeKey(event.key, false);
-  at('typed').blur();
-}
-
-function offerTyping() {
-  const field = at('typed');
-  at('typing').hidden = !matchMedia('(any-pointer: coarse)').matches;
-  field.addEventListener('focus', resetTyping);
-  field.addEventListener('blur', () => { field.value = ''; });
-  field.addEventListener('input', passTyping);
-  field.addEventListener('compositionend', passTyping);
-  field.addEventListener('keydown', passTypingKey);
-}
-
-rememberFilling();
-fitPicture();
-watchDensity();
-offerTyping();
-window.addEventListener('resize', fitPicture);
-at('size').addEventListener('click', changeFilling);
-at('again').addEventListener('click', playAgain);
-at('files').addEventListener('toggle', event => { if (event.target.open) offerFiles(); });
-at('taken').addEventListener('change', takeFiles);
-start(null);
+start();

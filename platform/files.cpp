@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 #include "platform/descriptor.h"
@@ -89,25 +88,6 @@ std::optional<Bytes> fileContents(const std::string& path) {
 File openFile(const std::string& path) {
     const std::string name = resolved(path);
     return opened(name, name).value_or(File{});
-}
-
-bool isOpen(const File& file) { return !file.path.empty(); }
-
-std::size_t readBytes(File& file, void* buffer, std::size_t count) {
-    const std::size_t got = std::min(count, file.contents.size() - file.position);
-    if (got > 0) std::memcpy(buffer, file.contents.data() + file.position, got);
-    file.position += got;
-    return got;
-}
-
-std::size_t writeBytes(File& file, const void* buffer, std::size_t count) {
-    if (!isOpen(file) || count == 0) return 0;
-    const std::size_t end = file.position + count;
-    if (file.contents.size() < end) file.contents.resize(end);
-    std::memcpy(file.contents.data() + file.position, buffer, count);
-    file.position = end;
-    file.changed = true;
-    return count;
 }
 
 void closeFile(File& file) {

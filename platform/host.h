@@ -19,6 +19,9 @@ void open(int width, int height);
 /// Titles the window; remembered when it is not open yet.
 void setTitle(const std::string& title);
 
+/// Says a text that the picture shows anyhow, to readers who do not see it; may do nothing.
+void tell(const std::string& text);
+
 /// Shows a whole frame (rows top to bottom, no gaps, the size given to open) at once. It differs from the one
 /// shown before in those stretches of rows alone, of which there is one at least, from the top down. The
 /// pixels stay as they are until the next call, for repaints.
@@ -34,7 +37,8 @@ void pump(InputQueue& queue);
 /// Sleeps for about that many milliseconds (0 to 100); a request to end the program cuts it short.
 void sleep(int milliseconds);
 
-/// Waits until input arrives, or for that many seconds at most; may return early.
+/// Waits until input arrives, or for about that many seconds; may return early, and up to two seconds late
+/// where nothing has come in for long.
 void waitForInput(double seconds);
 
 /// Seconds on a monotonic clock whose start differs from run to run.

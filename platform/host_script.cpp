@@ -20,6 +20,7 @@ struct ScriptHost {
     int frameWidth = 0;
     std::string folder = ".";
     std::string title;
+    std::string told;
     std::vector<Colour> shown;
     std::vector<std::string> warnings;
     script::Feeder idle;
@@ -47,6 +48,7 @@ const std::vector<Colour>& shownFrame() { return state.shown; }
 long presentCount() { return state.presents; }
 const std::string& windowTitle() { return state.title; }
 const std::vector<std::string>& warnings() { return state.warnings; }
+const std::string& toldText() { return state.told; }
 long sleptMilliseconds() { return state.slept; }
 void loseWindow() {
     if (state.save) state.save();
@@ -63,6 +65,8 @@ void open(int width, int height) {
 }
 
 void setTitle(const std::string& title) { state.title = title; }
+
+void tell(const std::string& text) { state.told = text; }
 
 void present(const Colour* pixels, std::span<const Rows> changed) {
     // Only what was named: a row that changed unnamed stays old, and the tests see it.

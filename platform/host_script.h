@@ -50,6 +50,9 @@ const std::string& windowTitle();
 /// What a desktop would have on standard error.
 const std::vector<std::string>& warnings();
 
+/// What was told last to readers who do not see the picture.
+const std::string& toldText();
+
 /// Milliseconds that animations have paused.
 long sleptMilliseconds();
 

@@ -101,6 +101,8 @@ void setTitle(const std::string& title) {
     titleDesktopWindow(title);
 }
 
+void tell(const std::string& /*text*/) {}
+
 void present(const Colour* pixels, std::span<const Rows> changed) { showFrame(pixels, changed); }
 
 double framePeriod() { return displayPeriod(); }

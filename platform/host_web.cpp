@@ -11,6 +11,7 @@
 extern "C" {
 void gloomdeckOpen(int width, int height);
 void gloomdeckTitle(const char* title);
+void gloomdeckTell(const char* text);
 void gloomdeckPaint(const std::uint8_t* pixels, int width, int firstRow, int rows);
 int gloomdeckTakeEvent(std::int32_t* event);
 double gloomdeckSeconds();
@@ -18,10 +19,10 @@ void gloomdeckSleep(int milliseconds);
 void gloomdeckAwaitInput(double milliseconds);
 void gloomdeckBreathe();
 void gloomdeckRest();
-void gloomdeckKeepFiles();
+void gloomdeckKeepRecords();
 void gloomdeckWarn(const char* line);
 void gloomdeckEnded();
-void gloomdeckLeave();
+void gloomdeckKeep();
 }
 
 namespace gloomdeck::host {
@@ -97,6 +98,8 @@ void open(int width, int height) {
 
 void setTitle(const std::string& title) { gloomdeckTitle(title.c_str()); }
 
+void tell(const std::string& text) { gloomdeckTell(text.c_str()); }
+
 void present(const Colour* pixels, std::span<const Rows> changed) {
     for (const Rows rows : changed) convertRows(pixels, rows);
     paintRows({changed.front().first, changed.back().last});
@@ -131,15 +134,16 @@ void onLost(void (*save)()) { saveWhenLost = save; }
 void warn(const std::string& line) { gloomdeckWarn(line.c_str()); }
 
 void end(int /*exitCode*/) {
-    gloomdeckKeepFiles();
+    gloomdeckKeepRecords();
     gloomdeckEnded();
     while (true) gloomdeckRest();
 }
 
 }  // namespace gloomdeck::host
 
-// Called from outside: the page is being left or hidden, and nothing may wait any more.
-void gloomdeckLeave() {
+// Called from outside, while the game waits: it rests, or the page is being left or hidden and nothing may
+// wait any more.
+void gloomdeckKeep() {
     if (gloomdeck::host::saveWhenLost != nullptr) gloomdeck::host::saveWhenLost();
-    gloomdeckKeepFiles();
+    gloomdeckKeepRecords();
 }

@@ -4,6 +4,8 @@
 
 namespace gloomdeck {
 
+void tell(const std::string& text) { host::tell(text); }
+
 void onWindowLost(void (*save)()) { host::onLost(save); }
 
 void endProgram(int exitCode) { host::end(exitCode); }

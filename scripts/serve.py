@@ -12,6 +12,12 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         self.send_header("Cache-Control", "no-cache")
         super().end_headers()
 
+    def handle(self):
+        try:
+            super().handle()
+        except ConnectionError:
+            print(f"{getattr(self, 'path', 'a request')} was broken off by the browser", file=sys.stderr, flush=True)
+
     def log_message(self, *_):
         """Who asks for what is of no interest here."""
 

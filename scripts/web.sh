@@ -5,39 +5,29 @@ web_test_packages=(chromium)
 longest_test=1800  # seconds; it takes far less
 web_toolchain=/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake
 
-# page_version: short, and another one as soon as anything that the page loads is another.
-page_version() { cat "$top"/page/* "$top"/build/web/gloomdeck.{js,wasm} | sha256sum | cut -c 1-10; }
-
-# stage_page FOLDER: a browser that has an older page's script must not start the newer game with it, so the
-# names that the page loads carry its version.
+# stage_page FOLDER [ADDRESS]
 stage_page() {
-    local version file made="$top/build/web/page"
-    version="$(page_version)"
-    mkdir -p "$1" "$made" || die "$1 cannot be made"
-    sed -E "s/(href|src)=\"([a-z]+\.(js|wasm|css|png))\"/\1=\"\2?v=$version\"/" "$top/page/index.html" >"$made/index.html"
-    cp "$top"/page/*.{css,js} "$top"/build/web/gloomdeck.{js,wasm} "$made"
-    "$top/build/release/art/artbake" --icons "$top/build/web/icons" || die "the icons could not be painted"
-    cp "$top/build/web/icons/32x32/apps/gloomdeck.png" "$made/icon.png"
-    chmod 644 "$made"/*
-    for file in "$made"/*; do copy_changed "$file" "$1"; done
+    local icons="$top/build/web/icons"
+    rm -rf "$icons"
+    "$top/build/release/art/artbake" --page-icons "$icons" || die "the icons could not be painted"
+    python3 "$top/scripts/stage_page.py" "$top/page" "$top/build/web" "$icons" "$@" || die "$1 could not be filled"
 }
 
-# build_web: the pictures are painted here, since the browser's build makes only what runs in a browser.
+# build_web [ADDRESS]: the pictures are painted here, since the browser's build makes only what runs in a browser.
 build_web() {
     [ -f "$web_toolchain" ] || die "$web_toolchain is missing; Debian's package emscripten has it"
     build release gfx
     # Where node is not Debian's, it finds Debian's libraries by this alone.
     NODE_PATH="/usr/share/nodejs${NODE_PATH:+:$NODE_PATH}" build web
-    stage_page "$top/dist/web"
+    stage_page "$top/dist/web" "$@"
 }
 
-# need_driver: what steers the browser, at the version that the lock names.
-need_driver() {
-    local folder="$top/tests/web"
+# need_modules FOLDER: what the lock there names, at the versions that it names.
+need_modules() {
     command -v npm >/dev/null || need_packages nodejs npm
-    [ "$folder/node_modules/.package-lock.json" -nt "$folder/package-lock.json" ] && return
-    (cd "$folder" && npm ci --no-audit --no-fund --ignore-scripts >&2) ||
-        die "playwright-core could not be installed (see above); with a network run: cd tests/web && npm ci"
+    [ "$1/node_modules/.package-lock.json" -nt "$1/package-lock.json" ] && return
+    (cd "$1" && npm ci --no-audit --no-fund --ignore-scripts >&2) ||
+        die "packages could not be installed (see above); with a network run: cd $1 && npm ci"
 }
 
 # test_page PATTERN: plays the page in a browser, and counts the lines that say what passed and what failed.

@@ -1,9 +1,11 @@
 #include "shell/play/describe.h"
 
 #include <string>
+#include <string_view>
 
 #include "content/locations.h"
 #include "platform/draw.h"
+#include "platform/system.h"
 #include "rules/board.h"
 #include "rules/catalogue.h"
 #include "shell/play/play_pieces.h"
@@ -31,11 +33,16 @@ void drawChanceBox(int box, int icon, int chance, int boost) {
         drawText(x, boxTop - chanceLift, std::to_string(std::int64_t{chance} + boost) + "%");
 }
 
+void describeInWords(std::string_view text) {
+    drawText(textLeft, textTop, text);
+    tell(std::string(text));
+}
+
 void describeEncounter(int col, int code) {
     const EncounterType& type = encounterType(code);
     putTile(locationRow(column(col).location).backgroundTile, textLeft, boxTop, putCopy);
     putTile(type.tile, textLeft, boxTop, putTransparent);
-    drawText(textLeft, textTop, type.name);
+    describeInWords(type.name);
     drawChanceBox(chance_box::shield, tile::shield, type.shieldChance, level(shieldBoost));
     drawChanceBox(chance_box::sun, tile::sun, type.sunChance, level(sunBoost));
     drawChanceBox(chance_box::lightning, tile::lightning, type.lightningChance, level(lightningBoost));
@@ -59,9 +66,9 @@ void describeBoardCell(int col, int row) {
     clearInfoArea();
     const int eyeRow = FirstEyeRow(col);
     if (IsPastEnd(col, row))
-        drawText(textLeft, textTop, "You have finished this column.");
+        describeInWords("You have finished this column.");
     else if (eyeRow != none && eyeRow < row)
-        drawText(textLeft, textTop, "This space is hidden by a Hypno Eye.");
+        describeInWords("This space is hidden by a Hypno Eye.");
     else
         describeEncounter(col, cell(col, row));
 }
@@ -73,6 +80,7 @@ void describeItem(int row) {
     drawFramedTile(type.tile, textLeft, boxTop);
     drawText(textLeft, textTop, std::string(type.name) + ": ");
     drawText(itemText.x, itemText.y, type.description);
+    tell(std::string(type.name) + ": " + std::string(type.description));
 }
 
 }  // namespace gloomdeck

@@ -4,6 +4,7 @@
 
 #include "platform/draw.h"
 #include "platform/palette.h"
+#include "platform/system.h"
 #include "rules/show.h"
 #include "shell/widgets/panels.h"
 #include "shell/widgets/places.h"
@@ -30,6 +31,7 @@ void scrollIn(std::string_view line) {
     auto& lines = messageBar.lines;
     std::rotate(lines.begin(), lines.end() - 1, lines.end());
     lines.front() = line.substr(0, longestLine);
+    if (!line.empty()) tell(lines.front());
 }
 
 void drawBar() {

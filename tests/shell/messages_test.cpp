@@ -46,6 +46,7 @@ TEST_F(MessagesTest, FourMessagesStandTrimmedAndCutAndAnEmptyTextOnlyRedrawsThem
     EXPECT_EQ(messageBar.lines, (std::array<std::string, 4>{"", "four", "three", "two"}));
     ShowMessage("  " + std::string(60, 'x'), 0);
     EXPECT_EQ(newestMessage(), std::string(47, 'x'));
+    EXPECT_EQ(script::toldText(), newestMessage()) << "readers who do not see it are told";
     const Image bar = screen();
     screen() = blank;
     ShowMessage("", 1);

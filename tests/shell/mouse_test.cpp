@@ -83,4 +83,12 @@ TEST_F(MouseTest, AStatsPressCountsWhereverItEnds) {
     EXPECT_EQ(ui.targetMode, target::none);
 }
 
+TEST_F(MouseTest, WhatIsUnderThePointerIsToldToReadersWhoDoNotSeeIt) {
+    board(2, 5) = enc::Skeleton;
+    moveTo(boardCell(2, 5));
+    EXPECT_EQ(script::toldText(), "Skeleton");
+    moveTo(statsCell(gold));
+    EXPECT_TRUE(script::toldText().starts_with("Gold: "));
+}
+
 }  // namespace gloomdeck

@@ -1,4 +1,6 @@
 // Chromium, the page in it, and what the tests do and see there: places are pixels of the game's frame.
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { inflateSync } from 'node:zlib';
 import { chromium } from 'playwright-core';
 
@@ -86,7 +88,7 @@ export class Player {
     this.key = `gloomdeck:${new URL('.', address).pathname}`;
     this.faults = [];
     this.requests = [];
-    page.on('pageerror', error => this.faults.push(error.message));
+    page.on('pageerror', error => this.faults.push(error.stack));
     page.on('console', message => { if (message.type() === 'error') this.faults.push(message.text()); });
     page.on('request', request => this.requests.push(request.url()));
   }
@@ -96,9 +98,17 @@ export class Player {
     await this.untilRunning();
   }
 
+  // What the page's script lets be seen: the run of the game and the store.
+  inside() {
+    return this.page.evaluateHandle(async () => {
+      const { src } = document.querySelector('script[type="module"]');
+      return (await import(src)).page;
+    });
+  }
+
   untilRunning() {
-    return until('the game to start', () => this.page.evaluate(
-      () => typeof module !== 'undefined' && module !== null && document.title !== 'Gloomdeck'));
+    return until('the game to start', async () => this.page.evaluate(
+      page => page.host?.module && document.title !== 'Gloomdeck', await this.inside()).catch(() => false));
   }
 
   async stored() {
@@ -108,11 +118,12 @@ export class Player {
 
   // The records of this page as they would be kept now; none before there are any.
   async now() {
-    const item = await this.page.evaluate(() => {
-      module.game.leave();
-      const files = module.game.files();
-      return files && Object.fromEntries(Object.entries(files).map(([name, bytes]) => [name, module.game.encode(bytes)]));
-    });
+    const item = await this.page.evaluate(({ host }) => {
+      host.save();
+      const files = Object.entries(host.records);
+      const encode = bytes => btoa(String.fromCharCode(...bytes));
+      return files.length > 0 && Object.fromEntries(files.map(([name, bytes]) => [name, encode(bytes)]));
+    }, await this.inside());
     return item && new Saved(item);
   }
 
@@ -130,10 +141,10 @@ export class Player {
 
   // Another game in the place of the kept one, for the next load.
   async plant(saved) {
-    await this.page.evaluate(([key, text]) => {
-      module.game.halt();
+    await this.page.evaluate(([page, key, text]) => {
+      page.host.halt();
       localStorage.setItem(key, text);
-    }, [this.key, saved.text()]);
+    }, [await this.inside(), this.key, saved.text()]);
   }
 
   async at({ x, y }) {
@@ -149,13 +160,14 @@ export class Player {
 
   async untilSaved(what, holds) {
     let last = null;
-    await until(what, async () => (last = await this.now()) !== null && holds(last));
+    await until(what, async () => (last = await this.now()) && holds(last));
     return last;
   }
 
   // Clicks come before keys that were typed earlier, so the name must be there; no name before was as long.
   untilNamed(name) {
-    return until('the name', async () => [0xFFFF00, 0x696969].includes(await this.pixel(16 + 8 * name.length + 3, 182)));
+    const cursor = 16 + 8 * name.length + 3;
+    return until('the name', async () => [0xFFFF00, 0x696969].includes(await this.pixel(cursor, 182)));
   }
 
   // Past the title picture.
@@ -169,6 +181,10 @@ export class Player {
   async startScenario() {
     await this.passTitle();
     await this.untilTitle('Select a game');
+    await this.startScenarioFromList();
+  }
+
+  async startScenarioFromList() {
     await this.click(place.scenarioTab);
     await this.click(place.start);
     await this.untilTitle('Gloomdeck 1.2');
@@ -184,10 +200,10 @@ export class Player {
   }
 
   // A part of the frame, to compare with itself.
-  look(x, y, width, height) {
-    return this.page.evaluate(([left, top, w, h]) =>
-      document.getElementById('screen').getContext('2d').getImageData(left, top, w, h).data.join(),
-    [x, y, width, height]);
+  async look(x, y, width, height) {
+    return this.page.evaluate(
+      ([{ screen }, left, top, w, h]) => screen.frameContext.getImageData(left, top, w, h).data.join(),
+      [await this.inside(), x, y, width, height]);
   }
 
   // 0xRRGGBB of the frame.
@@ -197,7 +213,7 @@ export class Player {
   }
 
   async frame() {
-    const url = await this.page.evaluate(() => document.getElementById('screen').toDataURL());
+    const url = await this.page.evaluate(page => page.screen.frame.toDataURL(), await this.inside());
     return decodePng(Buffer.from(url.split(',')[1], 'base64'));
   }
 }
@@ -233,4 +249,25 @@ function guess(filter, left, up, corner) {
   const [a, b, c] = [left, up, corner].map(value => Math.abs(sum - value));
   if (a <= b && a <= c) return left;
   return b <= c ? up : corner;
+}
+
+// Comes back to the play screen and answers what is kept then.
+export async function returned(player) {
+  await player.passTitle();
+  return player.untilSaved('the board', now => now.screen === 2);
+}
+
+export async function playTwoTurns(player) {
+  const start = (await player.now()).turns;
+  for (const col of [1, 4]) {
+    const { turns } = await player.now();
+    await player.click(place.board(col));
+    await player.untilSaved('a turn', now => now.turns > turns);
+  }
+  assert.equal((await player.now()).turns, start + 2);
+}
+
+export async function fileOf(page, id) {
+  const [download] = await Promise.all([page.waitForEvent('download'), page.locator(id).click()]);
+  return { name: download.suggestedFilename(), contents: readFileSync(await download.path()) };
 }

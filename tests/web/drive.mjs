@@ -8,10 +8,14 @@ import { tmpdir } from 'node:os';
 import { dirname, join, resolve } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { launch, Player } from './browser.mjs';
+import firefoxTests from './firefox.mjs';
 import inputTests from './input.mjs';
 import keepingTests from './keeping.mjs';
 import pictureTests from './picture.mjs';
+import offlineTests from './offline.mjs';
 import playTests from './play.mjs';
+import poorTests from './poor.mjs';
+import travelTests from './travel.mjs';
 
 const [, pageFolder, pattern = ''] = process.argv.slice(2);
 const here = dirname(fileURLToPath(import.meta.url));
@@ -38,10 +42,21 @@ async function openContext(browser, address, options = {}) {
     await player.load();
     return player;
   };
+  open.elsewhere = async other => {
+    const elsewhere = await other.newContext({ viewport: context.pages()[0].viewportSize() });
+    const player = new Player(await elsewhere.newPage(), address);
+    players.push(player);
+    await player.load();
+    return player;
+  };
   return { context, open, players };
 }
 
 async function run(test, browser, address) {
+  if (test.skip) {
+    console.log(`SKIP ${test.name}: ${test.skip}`);
+    return;
+  }
   const stage = await openContext(browser, address, test.options);
   try {
     await test.run({ ...stage, browser, address, pageFolder, scratch });
@@ -56,11 +71,13 @@ async function run(test, browser, address) {
   }
 }
 
-process.on('exit', () => rmSync(scratch, { recursive: true }));
+process.on('exit', () => rmSync(scratch, { recursive: true, maxRetries: 5 }));
 process.on('SIGTERM', () => process.exit(1));
 const address = await serve();
 const browser = await launch();
-for (const test of [...playTests, ...keepingTests, ...inputTests, ...pictureTests])
+const tests = [playTests, keepingTests, travelTests, inputTests, pictureTests, offlineTests, poorTests,
+  firefoxTests].flat();
+for (const test of tests)
   if (test.name.includes(pattern)) await run(test, browser, address);
 await browser.close();
 process.exit();

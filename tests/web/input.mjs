@@ -99,11 +99,56 @@ async function fingers({ open, context }) {
   await until('the board again', async () => await player.pixel(124, 210) !== 0x708090);
 }
 
+// What is read out, where the focus is, and who gets the arrow keys.
+async function otherReaders({ open }) {
+  const player = await open();
+  await player.startScenario();
+  await player.resume((await player.now()).fillWithGold());
+  const { page } = player;
+  assert.equal(await page.getByRole('application', { name: 'Gloomdeck' }).count(), 1);
+  const told = page.locator('[aria-live=polite]');
+  await page.mouse.move(...await player.at(place.board(2, 3)));
+  await until('the description', async () => await told.textContent() === 'Gold');
+  await page.mouse.move(...await player.at(place.stats(3)));
+  await until('the item', async () => /^Shield.*: ./.test(await told.textContent()));
+  await page.mouse.move(1, 1);
+  await player.settle();
+  const board = () => player.look(100, 180, 200, 100);
+  const unasked = await board();
+  await player.press('Shift+R');
+  await until('the question', async () => await board() !== unasked);
+  await player.press('y');
+  await until('the message', async () => (await told.textContent()).startsWith('Click on the bottom row'));
+  await page.setViewportSize({ width: 1000, height: 560 });
+  const scrolled = () => page.evaluate(() => scrollY);
+  await page.locator('#screen').focus();
+  await player.press('ArrowDown');
+  assert.equal(await scrolled(), 0, 'the game\'s own arrow keys scroll');
+  await page.locator('#fullscreen').focus();
+  await page.evaluate(() => scrollTo(0, 0));
+  await player.press('ArrowDown');
+  if (await page.evaluate(() => document.documentElement.scrollHeight > innerHeight))
+    await until('the page to scroll', async () => await scrolled() > 0);
+  for (const id of ['screen', 'fullscreen', 'copy', 'taken']) {
+    await page.evaluate(() => { document.getElementById('files').open = true; });
+    const look = () => page.locator(`#${id}`).evaluate(one => [one, one.parentElement].map(seen => {
+      const { outline, boxShadow } = getComputedStyle(seen);
+      return outline + boxShadow;
+    }).join());
+    await page.evaluate(() => document.activeElement.blur());
+    const without = await look();
+    await page.keyboard.press('Tab');
+    await page.locator(`#${id}`).focus();
+    assert.notEqual(await look(), without, `the focus of ${id} is not seen`);
+  }
+}
+
 const phone = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true };
 
 export default [
   { name: 'of 100 fast clicks none is lost', run: fastClicks },
   { name: 'presses that are no clicks', run: pressesThatAreNoClicks },
   { name: 'keys that are the browser\'s, and keys that are not', run: keysOfTheBrowser },
+  { name: 'every reader is told, and finds the focus', run: otherReaders },
   { name: 'fingers tap, read and type', run: fingers, options: phone },
 ];
