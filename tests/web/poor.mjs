@@ -67,7 +67,7 @@ async function noAnswer({ context, address }) {
   await page.goto(address, { waitUntil: 'commit' });
   const late = page.locator('.late');
   await late.waitFor({ state: 'attached' });
-  assert.equal(await late.isVisible(), false);
+  await until('the style that hides them', async () => !(await late.isVisible()));
   await until('the words', async () => {
     await late.evaluate(words => { for (const wait of words.getAnimations()) wait.currentTime = 15001; });
     return late.isVisible();
