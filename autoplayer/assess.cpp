@@ -1,3 +1,4 @@
+// What each cell is worth to the hero as he stands, and the look-ahead over a column.
 #include "autoplayer/assess.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Its moves: the column that is chosen, the weapon before it, the sweep where nothing else is left.
 #include "autoplayer/autoplayer.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// The values of the encounters, a row each.
 #include "autoplayer/autoplayer_table.h"
 
 #include "platform/table.h"

@@ -1,3 +1,4 @@
+// A stage: the scenario that it names or asks for, its board, then its story page.
 #include "content/campaign_flow.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What a stage entry means: a scenario, or a random one of a difficulty.
 #include "content/campaigns.h"
 
 #include <algorithm>

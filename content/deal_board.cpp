@@ -1,3 +1,4 @@
+// The shuffle of a scenario's columns, and their deal.
 #include "content/deal_board.h"
 
 #include <array>

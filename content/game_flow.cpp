@@ -1,3 +1,4 @@
+// What a new game sets, and when one is over.
 #include "content/game_flow.h"
 
 #include "content/campaign_flow.h"

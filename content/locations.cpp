@@ -1,3 +1,4 @@
+// The weights of every deck, and the percentages that they round to.
 #include "content/locations.h"
 
 #include <algorithm>

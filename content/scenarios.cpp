@@ -1,3 +1,4 @@
+// The boards by name, each column by its terrain.
 #include "content/scenarios.h"
 
 #include <algorithm>

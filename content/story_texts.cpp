@@ -1,3 +1,4 @@
+// The texts, a sentence a line, and the proof that no stage lacks one.
 #include "content/story_texts.h"
 
 namespace gloomdeck {

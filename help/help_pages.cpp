@@ -1,3 +1,4 @@
+// The pages, a row each: label, entries, and how one is drawn.
 #include "help/help_pages.h"
 
 #include <span>

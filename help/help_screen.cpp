@@ -1,3 +1,4 @@
+// The page that is shown, the entry of each table page, and the buttons that step.
 #include "help/help_screen.h"
 
 #include <array>

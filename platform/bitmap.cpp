@@ -1,3 +1,4 @@
+// The pixels of bitmap files, of every depth, copied into an image.
 #include "platform/bitmap.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What a bitmap file says of itself, and whether it can be true.
 #include "platform/bitmap_header.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A button's look, in boxes and text.
 #include "platform/button_face.h"
 
 #include "platform/draw.h"

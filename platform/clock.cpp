@@ -1,3 +1,4 @@
+// What goes on during a pause: the frame is shown and input is let in.
 #include "platform/clock.h"
 
 #include <algorithm>

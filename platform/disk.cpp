@@ -1,3 +1,4 @@
+// New files beside the old ones, flushed and renamed step by step.
 #include "platform/disk.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Lines, circles and glyphs pixel by pixel, boxes and images by the kernels.
 #include "platform/draw.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Files read whole and written whole, and what a path stands for.
 #include "platform/files.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// A folder's lock, tried again until it is free or has been waited for long enough.
 #include "platform/folder_lock.h"
 
 #include <fcntl.h>

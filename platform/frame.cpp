@@ -1,3 +1,4 @@
+// What was drawn and named as changed, and when the host is given it.
 #include "platform/frame.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A host without a machine: what a script sets, and what it can look at.
 #include "platform/host_script.h"
 
 #include <algorithm>

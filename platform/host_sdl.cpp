@@ -75,6 +75,8 @@ std::string startedAs() {
     return name;
 }
 
+// The folder of the path by which it was started, not of what a link there leads to: the installed program is
+// started through a link in each player's own folder, and that player's files are there.
 std::string findFolder() {
     namespace fs = std::filesystem;
     std::error_code error;

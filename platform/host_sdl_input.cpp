@@ -1,3 +1,4 @@
+// Events of pointer, keys and window, as the input queue takes them.
 #include "platform/host_sdl_input.h"
 
 #include <SDL.h>

@@ -1,4 +1,4 @@
-// What the desktop window receives, as the game's queue takes it.
+// What the desktop window receives, as the input queue takes it.
 #pragma once
 
 #include "platform/input_queue.h"

@@ -1,3 +1,4 @@
+// The window, drawn into its own pixels, or by a renderer where it has none.
 #include "platform/host_sdl_window.h"
 
 #include <SDL.h>

@@ -1,3 +1,4 @@
+// Making images, and cutting them.
 #include "platform/image.h"
 
 namespace gloomdeck {

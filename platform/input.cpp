@@ -1,3 +1,4 @@
+// The one queue of the program, filled by the host before every poll.
 #include "platform/input.h"
 
 #include "platform/frame.h"

@@ -1,4 +1,4 @@
-// The pointer and the keys as the game polls them. Nothing here blocks.
+// The pointer and the keys as the program polls them. Nothing here blocks.
 #pragma once
 
 #include <string>

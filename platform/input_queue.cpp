@@ -1,3 +1,4 @@
+// What waits of button changes and keys, and what is dropped of it.
 #include "platform/input_queue.h"
 
 #include <algorithm>

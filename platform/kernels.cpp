@@ -1,5 +1,5 @@
-// Every loop is written once over blocks of pixels, and compiled for the registers that each processor of its
-// kind has and, where there are some, for wider ones.
+// The pixel loops. Each is written once over blocks of pixels, and compiled for the registers that every
+// processor of its kind has and, where there are some, for wider ones.
 #include "platform/kernels.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// The panel of the question, and the loop that polls until one of its buttons answers.
 #include "platform/question.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The generator, and another source in its place.
 #include "platform/random.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Enlarging by whole numbers, shrinking by averages.
 #include "platform/scaling.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rows compared and kept one by one.
 #include "platform/shown_frame.h"
 
 #include <cstddef>

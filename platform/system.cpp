@@ -1,3 +1,4 @@
+// The program's end, handed to the host.
 #include "platform/system.h"
 
 #include "platform/host.h"

@@ -1,3 +1,4 @@
+// The record's names and limits.
 #include "prefs/prefs.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Both records to their files and back, and the safe point between moves.
 #include "prefs/saved_data.h"
 
 #include <array>

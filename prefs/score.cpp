@@ -1,3 +1,4 @@
+// What the hero owns, by the turns that it took.
 #include "prefs/score.h"
 
 #include <algorithm>

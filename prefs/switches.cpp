@@ -1,3 +1,4 @@
+// The bits of the one field.
 #include "prefs/switches.h"
 
 #include "prefs/prefs.h"

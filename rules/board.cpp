@@ -1,3 +1,4 @@
+// What lies where, what an eye hides, and what a deck deals next.
 #include "rules/board.h"
 
 #include "content/campaigns.h"

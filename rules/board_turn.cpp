@@ -1,3 +1,4 @@
+// The upkeep in its order: message, healing, highlights, time, and the end of a board.
 #include "rules/board_turn.h"
 
 #include "prefs/prefs.h"

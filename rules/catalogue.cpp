@@ -1,3 +1,4 @@
+// The tables, and their run-time fields as they are built in.
 #include "rules/catalogue.h"
 
 #include "platform/table.h"

@@ -1,3 +1,4 @@
+// What monsters and caves leave behind.
 #include "rules/clear_cell.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// What locks, darkness, hits and thieves take, and what skills and powers spare.
 #include "rules/costs.h"
 
 #include <string>

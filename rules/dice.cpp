@@ -1,3 +1,4 @@
+// A roll is one draw of the platform's random numbers.
 #include "rules/dice.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// A rule for every code, and what follows when it took place.
 #include "rules/encounter.h"
 
 #include "rules/board.h"

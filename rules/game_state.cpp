@@ -1,3 +1,4 @@
+// The one game in progress.
 #include "rules/game_state.h"
 
 namespace gloomdeck {

@@ -1,3 +1,4 @@
+// Each change is added, shown, and highlighted for the turn and the next one.
 #include "rules/hero.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// What containers, scrolls and books roll for.
 #include "rules/loot.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Where those that move may go, and what is lost there.
 #include "rules/monsters.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// What each spell and tool rolls for, in the order in which it is seen.
 #include "rules/spells.h"
 
 #include <vector>

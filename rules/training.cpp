@@ -1,3 +1,4 @@
+// What is paid, and what it buys.
 #include "rules/training.h"
 
 #include "rules/catalogue.h"

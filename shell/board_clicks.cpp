@@ -1,3 +1,4 @@
+// By the targeting mode: a bolt, a bomb, a hand, or meeting the bottom tile.
 #include "shell/board_clicks.h"
 
 #include "rules/encounter.h"

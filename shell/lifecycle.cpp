@@ -1,3 +1,4 @@
+// The question, and saving once at the end.
 #include "shell/lifecycle.h"
 
 #include "platform/input.h"

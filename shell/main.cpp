@@ -1,3 +1,4 @@
+// The program.
 #include "shell/main_loop.h"
 
 int main() { gloomdeck::runGloomdeck(); }

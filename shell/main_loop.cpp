@@ -1,3 +1,4 @@
+// One pass: a key, the mouse, a command, and the turn that an action used.
 #include "shell/main_loop.h"
 
 #include <string>

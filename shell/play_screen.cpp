@@ -1,3 +1,4 @@
+// The widgets of the play screen, a row each, and what items do when they are clicked.
 #include "shell/play_screen.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The tabs, the list beside its panel, and the name that is typed.
 #include "content/screens/game_selection.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The rows of the list, the marked one inverted.
 #include "content/screens/selection_list.h"
 
 #include <string_view>

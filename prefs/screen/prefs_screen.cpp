@@ -1,3 +1,4 @@
+// The rows of switches, the speed between its buttons, and what a click changes.
 #include "prefs/screen/prefs_screen.h"
 
 #include <string>

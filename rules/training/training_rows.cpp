@@ -1,3 +1,4 @@
+// Bands of text and tile, the button where there is something to buy.
 #include "rules/training/training_rows.h"
 
 #include "platform/draw.h"

@@ -1,3 +1,4 @@
+// The screen's widgets and its rows.
 #include "rules/training/training_screen.h"
 
 #include <array>

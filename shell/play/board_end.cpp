@@ -1,3 +1,4 @@
+// The score above the board, the banner on it, and the Continue button.
 #include "shell/play/board_end.h"
 
 #include <string>

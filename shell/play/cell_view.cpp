@@ -1,3 +1,4 @@
+// Tiles on their terrain, and what happens to one: flashes, wipes, scorches.
 #include "shell/play/cell_view.h"
 
 #include "content/locations.h"

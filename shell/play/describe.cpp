@@ -1,3 +1,4 @@
+// The information area: what the pointer is over, its chances, or why it keeps its secret.
 #include "shell/play/describe.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// A glow on the hovered cell, which is given back as it was.
 #include "shell/play/hover.h"
 
 #include "platform/draw.h"

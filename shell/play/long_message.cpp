@@ -1,3 +1,4 @@
+// The panel over the board, its text wrapped, until it is acknowledged.
 #include "shell/play/long_message.h"
 
 #include "platform/draw.h"

@@ -1,3 +1,4 @@
+// The mode's icon and the blank information area.
 #include "shell/play/play_pieces.h"
 
 #include "platform/draw.h"

@@ -1,3 +1,4 @@
+// Title, day, board, stats area, messages, banner and buttons, from the top.
 #include "shell/play/play_view.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Counts and skills in their colours, powers with the bar of their turns.
 #include "shell/play/stats_column.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The modes' names and prompts.
 #include "shell/play/target_mode.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Face, outline and caption where the record places them.
 #include "shell/widgets/button.h"
 
 #include "platform/button_face.h"

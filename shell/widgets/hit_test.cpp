@@ -1,3 +1,4 @@
+// Cells by floors of quotients, and the look of the one that is pressed.
 #include "shell/widgets/hit_test.h"
 
 #include "platform/button_face.h"

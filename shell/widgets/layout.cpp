@@ -1,3 +1,4 @@
+// The table of places, and the records that start from it.
 #include "shell/widgets/layout.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The items of both menus, drawn alike.
 #include "shell/widgets/menus.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The lines, the newest below in yellow, and what scrolls them.
 #include "shell/widgets/messages.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// From the pointer's state to the row of the widget that it concerns.
 #include "shell/widgets/mouse.h"
 
 #include <algorithm>

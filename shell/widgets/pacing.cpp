@@ -1,3 +1,4 @@
+// Pauses by the speed's factor, and the wait for an acknowledgement.
 #include "shell/widgets/pacing.h"
 
 #include <array>

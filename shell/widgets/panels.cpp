@@ -1,3 +1,4 @@
+// Boxes, bars, centred text, and text in lines of whole words.
 #include "shell/widgets/panels.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Whose press it is, and whether a hold counts at all.
 #include "shell/widgets/press.h"
 
 #include "platform/input.h"

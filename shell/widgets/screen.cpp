@@ -1,3 +1,4 @@
+// Opening a screen, its passes, and what leaves it.
 #include "shell/widgets/screen.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The depth of the lock; the outermost pair locks and shows.
 #include "shell/widgets/screen_lock.h"
 
 #include "platform/frame.h"

@@ -1,3 +1,4 @@
+// The strips, cut into squares.
 #include "shell/widgets/tile_set.h"
 
 #include <algorithm>

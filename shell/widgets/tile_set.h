@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "platform/geometry.h"
 #include "platform/draw.h"
+#include "platform/geometry.h"
 #include "rules/tiles.h"
 
 namespace gloomdeck {

@@ -1,3 +1,4 @@
+// The one state of the screens.
 #include "shell/widgets/ui_state.h"
 
 namespace gloomdeck {

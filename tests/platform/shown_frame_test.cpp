@@ -17,11 +17,9 @@ std::vector<Rows> takenOver(Rows rows, std::initializer_list<std::size_t> places
     for (const std::size_t place : places) frame.pixels[place] = 8;
     const auto differing = takeOver(shown, frame, rows);
     std::vector<Rows> answer(differing.begin(), differing.end());
-    for (int y = rows.first; y <= rows.last; ++y)
-        for (int x = 0; x < 3; ++x) {
-            const auto place = static_cast<std::size_t>(y * 3 + x);
-            EXPECT_EQ(shown.picture.pixels[place], frame.pixels[place]) << place;
-        }
+    for (auto place = static_cast<std::size_t>(rows.first) * 3;
+         place / 3 <= static_cast<std::size_t>(rows.last); ++place)
+        EXPECT_EQ(shown.picture.pixels[place], frame.pixels[place]) << place;
     EXPECT_TRUE(takeOver(shown, frame, rows).empty());
     EXPECT_EQ(takeOver(shown, frame, {0, 5}).empty(), shown.picture.pixels == frame.pixels);
     return answer;

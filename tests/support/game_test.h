@@ -20,7 +20,8 @@ Colour flatColour(int tileNumber);
 std::string makeProgramFolder(bool withPictures = true);
 void removeProgramFolders();
 
-/// With a frame, flat tiles and the play screen's widgets, but no window. A screen left locked fails the test.
+/// With a frame, flat tiles and the play screen's widgets, but no window. A screen left locked fails the
+/// test.
 class GameTest : public RulesTest {
   protected:
     void SetUp() override;
