@@ -18,8 +18,9 @@ void scrollMessages();
 void drawBoard();
 void drawColumn(int col);
 void redrawCell(int col, int row);  ///< left as it is where an eye hides it
-void drawItemCount(int item, int change);
-void drawSkill(int skill, int change);
+/// A change (n) is highlighted, the item's by its net change of the turn.
+void drawItemCount(int item, int n);
+void drawSkill(int skill, int n);
 void drawPower(int power, bool withIcon);
 void DrawDayDisplay();
 

@@ -14,8 +14,8 @@ void scrollMessages() {}
 void drawBoard() {}
 void drawColumn(int /*col*/) {}
 void redrawCell(int /*col*/, int /*row*/) {}
-void drawItemCount(int /*item*/, int /*change*/) {}
-void drawSkill(int /*skill*/, int /*change*/) {}
+void drawItemCount(int /*item*/, int /*n*/) {}
+void drawSkill(int /*skill*/, int /*n*/) {}
 void drawPower(int /*power*/, bool /*withIcon*/) {}
 void DrawDayDisplay() {}
 void holdScreen() {}

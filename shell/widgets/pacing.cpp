@@ -52,8 +52,8 @@ void waitForAck(const std::string& key) {
     const double deadline = key.empty() ? start + longestTitle + afterTitle : noDeadline;
     while (true) {
         if (leftIsHeld(getMouse())) return waitForRelease();
-        const std::string pressed = readKey();
-        if (keptCloseRequest(pressed) || acknowledges(pressed, key) || programIsEnding()) return;
+        const std::string given = readKey();
+        if (keptCloseRequest(given) || acknowledges(given, key) || programIsEnding()) return;
         pausePolling(1, deadline);
         if (key.empty() && timer() - start > longestTitle) return;
     }

@@ -63,6 +63,7 @@ TEST(Scaling, EnlargedRowsAreHardBlocksAndShrunkPicturesAverageEveryPixel) {
                        0xFF0000FF, 0xFF000000, 0xFF800000, 0xFF008000};
     EXPECT_EQ(drawn({4, 2}, mixed, {1, 1}, {2, 3}, {0, 1, 1, 1}),
               (Pixels{0, 0, 0xFF00007F, 0xFF404000, 0, 0}));
+    EXPECT_EQ(drawn({6, 3}, Pixels(18, 0xFF102030), {0, 0}, {2, 1}, {0, 0, 1, 0}), Pixels(2, 0xFF102030));
 }
 
 }  // namespace gloomdeck

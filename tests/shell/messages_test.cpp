@@ -89,7 +89,7 @@ TEST_F(MessagesTest, ACloseRequestEndsAWaitAndIsRememberedAndTheSystemsEndStopsI
 
 TEST_F(MessagesTest, WrappedTextBreaksBetweenWordsAndAtBackslashesAndBulletItemsIndentUntilThen) {
     expectLines("one two three", 7, {"one two", "three"});
-    expectLines("a\\b\\\\c", 9, {"a", "b", "", "c"});
+    expectLines(R"(a\b\\c)", 9, {"a", "b", "", "c"});
     expectLines("  lead and trail  ", 8, {"lead", "and", "trail"});
     expectLines("", 5, {});
     expectLines("unbreakable", 4, {"unbr", "eaka", "ble"});

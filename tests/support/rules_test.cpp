@@ -22,7 +22,8 @@ double nextFed() {
     if (fed.empty()) return 0.0;
     const FedRoll roll = fed.front();
     fed.pop_front();
-    return (roll.value - 0.5) / roll.sides;
+    // So near to the next value that a die of other sides shows another one.
+    return (roll.value - 1e-6) / roll.sides;
 }
 
 }  // namespace
