@@ -25,7 +25,8 @@ void scene(StagedPlay& play, const std::string& name, const std::function<void()
         game.skills = {};
         game.powers = {};
         game.scenario = 4;  // where training and trading are allowed
-        game.campaignStage = game.campaignWon = 0;
+        game.campaignStage = 0;
+        game.campaignWon = 0;
         game.turns = 1;
         ApplyDefaults();
         prefs.currentScreen = screen_id::play;

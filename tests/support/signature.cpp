@@ -80,7 +80,8 @@ void forgetPictures() {
 }
 
 Colour colourAt(const std::vector<Colour>& pixels, int x, int y) {
-    return pixels.empty() ? 0 : pixels[static_cast<std::size_t>(y * frameWidth + x)] & 0xFFFFFF;
+    const int place = y * frameWidth + x;
+    return pixels.empty() ? 0 : pixels[static_cast<std::size_t>(place)] & 0xFFFFFF;
 }
 
 // Expected, drawn, and where they differ, side by side; an expected one that is not to be had is black.
@@ -132,7 +133,7 @@ std::vector<std::string> differences() {
         const auto before = kept.extract(name);
         const std::string fault =
             before ? difference(name, before.mapped(), textOf(shots)) : "is new, or there twice";
-        if (!fault.empty()) found.push_back(name + ": " + fault);
+        if (!fault.empty()) found.emplace_back(name).append(": ").append(fault);
     }
     for (const auto& [name, shots] : kept) found.push_back(name + ": is gone");
     return found;
