@@ -2,6 +2,7 @@
 
 #include <sys/resource.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 
@@ -69,11 +70,20 @@ TEST(Files, RecordsAreReplacedWholeAndKeepALongerFilesTail) {
 TEST(Files, WhatCannotBeOpenedTakesAndGivesNothing) {
     const std::string folder = makeProgramFolder();
     char byte = 'x';
-    for (const std::string& unusable : {folder, folder + "/none/record.dat"}) {
+    std::filesystem::create_symlink("/proc/self/mem", folder + "/unreadable.dat");
+    for (const std::string& unusable : {folder, folder + "/none/record.dat", folder + "/unreadable.dat"}) {
         File closed = openFile(unusable);
+        EXPECT_FALSE(isOpen(closed) || fileContents(unusable));
         EXPECT_EQ(readBytes(closed, &byte, 1) + writeBytes(closed, &byte, 1), 0U);
         closeFile(closed);
     }
+    const std::string record = folder + "/Data/record.dat";
+    writeFile(record, "old");
+    FilesTogether both({record, folder + "/unreadable.dat"});
+    std::array files{openFile(both, record), openFile(both, folder + "/unreadable.dat")};
+    writeBytes(files[0], "new", 3);
+    closeTogether(both, files);
+    EXPECT_EQ(readFile(record), "old") << "nor is what belongs together with it written";
     removeProgramFolders();
 }
 

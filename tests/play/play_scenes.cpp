@@ -92,6 +92,7 @@ void playPieces(StagedPlay& play) {
         game.skills[toughness] = 95;
         count(health) = 0;
         everyCode();
+        cell(6, 5) = enc::HypnoEye;
         for (int col = 2; col < columnCount; ++col) cell(col, bottomRow) = enc::Empty;
     });
     for (int col = 2; col < 6; ++col) click(play, boardCell(col, bottomRow));
@@ -183,6 +184,15 @@ void playAutoplayer(StagedPlay& play) {
         });
         play.click(boardCell(0, bottomRow));
     }
+    scene(play, "autoplayer bombing eyes", [=] {
+        fillBoard(enc::Skeleton);
+        cell(0, 2) = cell(5, 5) = enc::HypnoEye;
+        count(bombs) = 2;
+        count(lightningBolts) = 0;
+        setSwitch(Switch::grief, true);
+        setSwitch(Switch::spellsSkills, true);
+    });
+    play.click(boardCell(0, bottomRow));
     scene(play, "autoplayer stopped", [=] {
         fillBoard(enc::Skeleton);
         allowAll();

@@ -1,6 +1,7 @@
 #include "prefs/saved_data.h"
 
 #include <cstring>
+#include <filesystem>
 #include <random>
 
 #include "prefs/switches.h"
@@ -11,6 +12,7 @@ namespace gloomdeck {
 namespace {
 
 using namespace std::string_literals;
+namespace fs = std::filesystem;
 
 std::string noise(std::size_t length) {
     static std::mt19937 random(2);
@@ -39,6 +41,29 @@ TEST_F(SavedDataTest, AnyBytesAreReadAndWrittenBackAndLongFilesKeepTheirTails) {
         prefsFile.resize(std::max(length, sizeof prefs));
         EXPECT_EQ(dataFile("DGDP.dat"), gameFile);
         EXPECT_EQ(dataFile("DGDG.dat"), prefsFile.replace(8, 4, 4, '\0')) << "the reserved field is cleared";
+    }
+}
+
+TEST_F(SavedDataTest, WhereOneFileCannotBeReadNeitherIsLoadedAndTheRunSavesNothing) {
+    script::setFolder(folder);
+    const std::string gamePath = folder + "/Data/DGDP.dat";
+    const std::string prefsPath = folder + "/Data/DGDG.dat";
+    for (const std::string& path : {gamePath, prefsPath}) {
+        SCOPED_TRACE(path);
+        const std::string gameFile = noise(600);
+        const std::string prefsFile = noise(600);
+        writeDataFile("DGDP.dat", gameFile);
+        writeDataFile("DGDG.dat", prefsFile);
+        fs::rename(path, path + ".kept");
+        fs::create_symlink("/proc/self/mem", path);  // to read its first byte is an error
+        resetSavedData();
+        game.turns = 77;
+        EXPECT_EQ(LoadSavedData(), 0);
+        EXPECT_EQ(game.turns, 77);
+        fs::rename(path + ".kept", path);
+        SaveData();
+        EXPECT_EQ(dataFile("DGDP.dat"), gameFile);
+        EXPECT_EQ(dataFile("DGDG.dat"), prefsFile);
     }
 }
 

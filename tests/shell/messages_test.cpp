@@ -94,6 +94,7 @@ TEST_F(MessagesTest, WrappedTextBreaksBetweenWordsAndAtBackslashesAndBulletItems
     expectLines("", 5, {});
     expectLines("unbreakable", 4, {"unbr", "eaka", "ble"});
     expectLines("* one two three four\\five six", 9, {"* one two", "  three", "  four", "five six"});
+    expectLines("* ab cdefghi jkl mno", 9, {"* ab", "  cdefghi", "  jkl", "  mno"});
     expectLines("*item\\* other item here", 12, {"*item", "* other item", "  here"});
 }
 
