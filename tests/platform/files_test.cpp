@@ -69,6 +69,7 @@ TEST(Files, RecordsAreReplacedWholeAndKeepALongerFilesTail) {
 
 TEST(Files, WhatCannotBeOpenedTakesAndGivesNothing) {
     const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
     char byte = 'x';
     std::filesystem::create_symlink("/proc/self/mem", folder + "/unreadable.dat");
     for (const std::string& unusable : {folder, folder + "/none/record.dat", folder + "/unreadable.dat"}) {
