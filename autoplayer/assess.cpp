@@ -151,7 +151,7 @@ void assessThief(Subject& s) {
         s.a.category = isActive(stasis) ? category::fairlyEasy : category::grief;
         s.a.value = s.values.worstValue;
     }
-    if (TotalStats() <= 0 && !isActive(stasis)) s.a.allowed = 0;
+    if (!isActive(stasis) && TotalStats() <= 0) s.a.allowed = 0;
 }
 
 // Filth and Demons, held by stasis in the bottom row.
@@ -214,7 +214,7 @@ void applyRule(Subject& s) {
 }
 
 CellAssessment assessCell(int col, int row, int eyeRow) {
-    if (IsPastEnd(col, row) || column(col).finished) return {.value = 0, .category = category::unavailable};
+    if (column(col).finished || IsPastEnd(col, row)) return {.value = 0, .category = category::unavailable};
     if (eyeRow != none && row > eyeRow) return {.value = hiddenValue, .category = category::unavailable};
     const AutoplayerRow& values = autoplayerRow(cell(col, row));
     Subject s{.col = col,

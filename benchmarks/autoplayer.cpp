@@ -57,11 +57,25 @@ void drawMove(benchmark::State& state) {
     }
 }
 
+void playGames(benchmark::State& state, double framePeriod) {
+    script::setFramePeriod(framePeriod);
+    while (state.KeepRunning()) {
+        startNextGame();
+        for (int moves = 0; moves < movesOfGames; ++moves) {
+            letTimePass();
+            if (!playMove()) startNextGame();
+        }
+    }
+    script::setFramePeriod(displayPeriod);
+}
+
 }  // namespace
 
 void registerAutoplayer() {
     benchmark::RegisterBenchmark("assessment and choice", assessAndChoose);
     benchmark::RegisterBenchmark("drawn move", drawMove);
+    benchmark::RegisterBenchmark("drawn games", playGames, displayPeriod);
+    benchmark::RegisterBenchmark("shown games", playGames, 0.0);  // every picture of them
 }
 
 }  // namespace gloomdeck

@@ -22,8 +22,6 @@ namespace gloomdeck {
 
 namespace {
 
-constexpr double displayPeriod = 1.0 / 60;
-
 std::mt19937_64 stream;
 
 double nextOfStream() { return static_cast<double>(stream() >> 11) * 0x1.0p-53; }

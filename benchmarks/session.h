@@ -8,6 +8,9 @@
 
 namespace gloomdeck {
 
+inline constexpr int movesOfGames = 1000;  ///< one game after the other, with and without a picture
+inline constexpr double displayPeriod = 1.0 / 60;
+
 /// Lays out the program as its start does, with the pictures in the folder's gfx and the display at rest.
 void startSession(const char* folder);
 

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "autoplayer/autoplayer.h"
+#include "benchmarks/session.h"
 #include "content/game_flow.h"
 #include "content/scenarios.h"
 #include "platform/random.h"
@@ -15,8 +16,6 @@
 namespace gloomdeck {
 
 namespace {
-
-constexpr int longestGame = 1000;  // moves
 
 std::mt19937_64 stream;
 
@@ -34,21 +33,14 @@ void startNextGame() {
     startNewGame();
 }
 
-/// Every run of the autoplayer is interrupted at its first move; false when it finds none.
-bool playMove() {
-    const int before = game.turns;
-    RunAutoplayer();
-    return game.turns > before;
-}
-
-void silentMove(benchmark::State& state) {
-    startNextGame();
-    while (state.KeepRunning()) {
-        if (playMove() && game.turns < longestGame) continue;
-        state.PauseTiming();
-        startNextGame();
-        state.ResumeTiming();
-    }
+void playGames(benchmark::State& state) {
+    while (state.KeepRunning())
+        for (int left = movesOfGames; left > 0;) {
+            startNextGame();
+            silentTurnLimit = left;
+            RunAutoplayer();
+            left -= game.turns;
+        }
 }
 
 }  // namespace
@@ -59,9 +51,8 @@ int main(int argc, char** argv) {
     using namespace gloomdeck;
     benchmark::Initialize(&argc, argv);
     useRandomSource(nextOfStream);
-    silentTurnLimit = 0;
     prefs.campaignChoice = none;
     prefs.switches = switchesWith(&SwitchType::allowsMoves);
-    benchmark::RegisterBenchmark("silent move", silentMove);
+    benchmark::RegisterBenchmark("silent games", playGames);
     return benchmark::RunSpecifiedBenchmarks() > 0 ? 0 : 2;
 }
