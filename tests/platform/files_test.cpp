@@ -88,4 +88,23 @@ TEST(Files, WhatCannotBeOpenedTakesAndGivesNothing) {
     removeProgramFolders();
 }
 
+TEST(Files, WhatACutSaveLeftAndNobodyCouldPutInItsPlaceIsReadWhereItStands) {
+    const std::string folder = makeProgramFolder();
+    script::setFolder(folder);
+    const std::string first = folder + "/Data/first.dat";
+    const std::string second = folder + "/Data/second.dat";
+    writeFile(first, "new");
+    writeFile(second + ".next", "newer");
+    std::filesystem::create_directory(second);
+    FilesTogether both({first, second});
+    for (const auto& [path, text] : {std::pair{first, "new"}, {second, "newer"}}) {
+        EXPECT_TRUE(fileExists(both, path));
+        std::string read(20, '.');
+        File file = openFile(both, path);
+        read.resize(readBytes(file, read.data(), read.size()));
+        EXPECT_EQ(read, text);
+    }
+    removeProgramFolders();
+}
+
 }  // namespace gloomdeck

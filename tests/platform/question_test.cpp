@@ -3,6 +3,7 @@
 
 #include "platform/frame.h"
 #include "platform/input.h"
+#include "platform/palette.h"
 #include "tests/support/script.h"
 
 namespace gloomdeck {
@@ -51,9 +52,16 @@ TEST_F(QuestionTest, ACloseRequestAnswersNoAndStays) {
     EXPECT_FALSE(ask(Script()));
 }
 
-TEST_F(QuestionTest, TheClipComesBack) {
+TEST_F(QuestionTest, TheClipComesBackAndALongQuestionLeavesTheEdgesOfTheFrame) {
     setClip(100, 150, 300, 200);
-    ask(Script().key("n"));
+    startScript(Script()
+                    .check([] {
+                        for (const int x : {1, frameWidth - 2})
+                            EXPECT_EQ(pixelAt(x, frameHeight / 2), colour::black) << x;
+                    })
+                    .key("n"));
+    EXPECT_FALSE(askYesNo(std::string(60, '?'), "confirm"));
+    finishScript();
     EXPECT_EQ(clipRect(), (Rect{100, 150, 300, 200}));
 }
 

@@ -56,9 +56,21 @@ TEST(Scaling, PlacesMapBackToTheFramesPixelsAndNoFurther) {
     EXPECT_EQ(framePixelAt(frame, {0, 61, 299, 418}, 299, 418), (Point{406, 486}));
 }
 
-TEST(Scaling, EnlargedRowsAreHardBlocksAndShrunkPicturesAverageEveryPixel) {
-    EXPECT_EQ(drawn({2, 2}, {1, 2, 3, 4}, {1, 1}, {6, 4}, {1, 2, 4, 3}),
-              (Pixels{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3, 3, 4, 4, 0, 0, 3, 3, 4, 4, 0}));
+TEST(Scaling, EnlargedRowsAreHardBlocks) {
+    const Pixels pixels{1, 2, 3, 4};
+    for (const int scale : {1, 2, 3, 4, 5})
+        for (const int border : {0, 1}) {
+            const int width = 2 * scale + 2 * border;
+            Pixels expected(static_cast<std::size_t>(width * 2 * scale), 0);
+            for (int y = scale; y < 2 * scale; ++y)
+                for (int x = 0; x < 2 * scale; ++x)
+                    expected[static_cast<std::size_t>(y * width + border + x)] = x < scale ? 3 : 4;
+            const Rect lowerRow{border, scale, border + 2 * scale - 1, 2 * scale - 1};
+            EXPECT_EQ(drawn({2, 2}, pixels, {1, 1}, {width, 2 * scale}, lowerRow), expected) << scale;
+        }
+}
+
+TEST(Scaling, ShrunkPicturesAverageEveryPixel) {
     const Pixels mixed{0xFF000000, 0xFF0000FF, 0xFF800000, 0xFF008000,
                        0xFF0000FF, 0xFF000000, 0xFF800000, 0xFF008000};
     EXPECT_EQ(drawn({4, 2}, mixed, {1, 1}, {2, 3}, {0, 1, 1, 1}),
