@@ -4,7 +4,6 @@
 #include "platform/draw.h"
 #include "platform/frame.h"
 #include "platform/input.h"
-#include "platform/rounding.h"
 #include "shell/widgets/screen_lock.h"
 #include "tests/support/game_test.h"
 
@@ -97,12 +96,6 @@ TEST_F(ClockTest, FasterPicturesThanTheDisplayAreSkippedAndTheLastIsNeverLost) {
     mark(200);
     EXPECT_EQ(slept([] { sleep(40); }), 40) << "showing in the middle of a pause makes it no longer";
     EXPECT_TRUE(isShown(200));
-}
-
-TEST(Rounding, HalvesGoToTheEvenNeighbourOnBothSidesOfZero) {
-    int ratio = -6;
-    for (const int rounded : {-2, -2, -2, -1, 0, 0, 0, 1, 2, 2, 2})
-        EXPECT_EQ(roundedRatio(++ratio, 2), rounded) << ratio;
 }
 
 }  // namespace gloomdeck
