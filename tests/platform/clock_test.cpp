@@ -1,4 +1,4 @@
-// Pauses, the waits of polling loops, and when the frame is shown; rounding.
+// Pauses, the waits of polling loops, and when the frame is shown.
 #include "platform/clock.h"
 
 #include "platform/draw.h"
