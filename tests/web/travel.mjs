@@ -1,9 +1,12 @@
 // The game on its way to another browser and back: as one file, as two, as a link.
 import assert from 'node:assert/strict';
-import { writeFileSync } from 'node:fs';
+import { readFileSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
-import { toFile } from '../../page/records.js';
 import { fileOf, place, playTwoTurns, returned, until } from './browser.mjs';
+
+// What a browser takes for a module from its page, every Node takes for one from an address of data.
+const records = readFileSync(new URL('../../page/records.js', import.meta.url), 'utf8');
+const { toFile } = await import(`data:text/javascript,${encodeURIComponent(records)}`);
 
 async function openRich(open) {
   const player = await open();
