@@ -112,7 +112,7 @@ check_files() {
 # check_release COMMIT DIST: fails unless all that was tried is well.
 check_release() {
     local log="$top/build/package-check.log"
-    need_packages "${check_packages[@]}" file
+    need_packages "${check_packages[@]}"
     build asan gloomdeck_window_tool
     scratch="$(mktemp -d)"
     trap 'rm -rf "$scratch"' EXIT

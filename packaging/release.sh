@@ -1,6 +1,6 @@
 # Builds the packages of a commit. Sourced by ./package.
 
-release_packages=(dpkg-dev git)
+release_packages=(dpkg-dev file git)
 
 # last_commit: the one of now, whatever is committed while it is built.
 last_commit() {

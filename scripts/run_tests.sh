@@ -9,6 +9,34 @@ print_counts() {
     [ "$2" = 0 ] && [ "$1" -gt 0 ]
 }
 
+# words_of EXPRESSION FILE: every word in the file that the expression begins and ends.
+words_of() { grep -oE "$1" "$2" | grep -oE '\w+' | sort -u; }
+
+# test_names: what tests can be called by what stands in their sources, nothing being built; a few words more for those
+# that list their names themselves.
+test_names() {
+    local source folder word
+    sed -nE 's/^TEST(_F)?\((\w+), (\w+)\).*/\2.\3/p' "$top"/tests/*/*_test.cpp | sed 'p; s/^/rules alone: /'
+    for source in $(grep -lE '^TEST_P' "$top"/tests/*/*_test.cpp); do
+        for word in $(words_of '"\w+"' "$source"); do
+            sed -nE "s,^TEST_P\((\w+)\, (\w+)\).*,rules alone: Rules/\1.\2/$word,p" "$source"
+        done
+    done
+    for source in "$top"/tests/*/run; do
+        folder="$(basename "${source%/run}")"
+        printf '%s\n' "$folder"
+        words_of '[a-z_]+' "$source" | sed "s/^/$folder./"
+    done
+    printf 'fuzz.%s\n' $(ls "$top/fuzz/corpus")
+}
+
+# need_match PATTERN WHAT: reads names, and ends the command where none has the pattern in it.
+need_match() {
+    local name found=no
+    while read -r name; do case "$name" in *$1*) found=yes ;; esac; done
+    [ "$found" = yes ] || die "no $2 has '$1' in its name; nothing was installed or built"
+}
+
 # as_expression PATTERN: for CTest; * and ? stand for any text and character.
 as_expression() { sed 's/[][\\.^$+()|]/\\&/g; s/\*/.*/g; s/?/./g' <<<"$1"; }
 
