@@ -17,7 +17,7 @@ words_of() { grep -oE "$1" "$2" | grep -oE '\w+' | sort -u; }
 test_names() {
     local source folder word
     sed -nE 's/^TEST(_F)?\((\w+), (\w+)\).*/\2.\3/p' "$top"/tests/*/*_test.cpp | sed 'p; s/^/rules alone: /'
-    for source in $(grep -lE '^TEST_P' "$top"/tests/*/*_test.cpp); do
+    grep -lE '^TEST_P' "$top"/tests/*/*_test.cpp | while read -r source; do
         for word in $(words_of '"\w+"' "$source"); do
             sed -nE "s,^TEST_P\((\w+)\, (\w+)\).*,rules alone: Rules/\1.\2/$word,p" "$source"
         done
@@ -27,7 +27,7 @@ test_names() {
         printf '%s\n' "$folder"
         words_of '[a-z_]+' "$source" | sed "s/^/$folder./"
     done
-    printf 'fuzz.%s\n' $(ls "$top/fuzz/corpus")
+    for folder in "$top"/fuzz/corpus/*; do printf 'fuzz.%s\n' "${folder##*/}"; done
 }
 
 # need_match PATTERN WHAT: reads names, and ends the command where none has the pattern in it.

@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build libsdl2-dev libpng-dev)
 test_packages=(libgtest-dev xvfb xauth xdotool x11-utils libx11-dev python3 strace)
-lint_packages=(clang-format clang-tidy shellcheck)
+lint_packages=(git clang-format clang-tidy shellcheck)
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 bench_packages=(libbenchmark-dev libpixman-1-dev pkg-config)
 
