@@ -63,8 +63,17 @@ is_one_folder() {
     local inside="$scratch/inside"
     (cd "$1" && find . -mindepth 1 -printf '%P%y\n' | LC_ALL=C sort) >"$inside"
     printf '%s\n' Datad README.mdf gfx/dtiles.bmpf gfx/dtiles2.bmpf gfx/dtiles3.bmpf gfx/dtitle.bmpf gfxd \
-        gloomdeckf | LC_ALL=C sort | diff - "$inside" &&
+        gloomdeckf gloomdeck.6f gloomdeck.desktopf gloomdeck.svgf | LC_ALL=C sort | diff - "$inside" &&
         cmp "$1/gloomdeck" "$2/usr/lib/games/gloomdeck/gloomdeck"
+}
+
+# portable_entry UNPACKED: as its first lines say that it is used.
+portable_entry() {
+    sed -n 's/^# \(sed .*\) >.*/\1/p' "$1/gloomdeck.desktop" >"$scratch/how"
+    (cd "$1" && bash "$scratch/how") >"$scratch/gloomdeck.desktop"
+    grep -Fx "Exec=\"$1/gloomdeck\"" "$scratch/gloomdeck.desktop" && [ -x "$1/gloomdeck" ] &&
+        grep -Fx "Icon=$1/gloomdeck.svg" "$scratch/gloomdeck.desktop" &&
+        desktop-file-validate "$scratch/gloomdeck.desktop"
 }
 
 # has_icons FOLDER: each has the size that its folder says.
@@ -97,6 +106,7 @@ check_files() {
     gzip -dc "$share/man/man6/gloomdeck.6.gz" >"$scratch/gloomdeck.6"
     "$unpacked/usr/games/gloomdeck" --help >"$scratch/help"
     tried desktop_entry "the desktop entry is not valid" desktop-file-validate "$share/applications/gloomdeck.desktop"
+    tried desktop_entry_portable "the tarball's desktop entry is not valid" portable_entry "$scratch"/gloomdeck-*
     tried metadata "the metadata is not valid" appstreamcli validate --strict --no-net "$share"/metainfo/*.xml
     tried lintian "lintian has found errors" lintian --allow-root --fail-on error,warning "$deb"
     tried manual "the manual page has faults" silent mandoc -T lint "$scratch/gloomdeck.6"

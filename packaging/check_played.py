@@ -4,6 +4,7 @@ portable folder too. Arguments: a build folder with the window tool, and the fol
 what it makes (the users gloomdeck-ann and gloomdeck-zoe, the installed package) it removes again."""
 
 import contextlib
+import os
 import pathlib
 import pwd
 import shutil
@@ -127,20 +128,29 @@ def older_package(package, folder):
     return folder / "older.deb"
 
 
-def system_files():
-    """All names outside of homes, temporary files, logs and the package system's own notes."""
+def own_names():
+    """What in the system is called as the game is, outside of homes, temporary files, logs and the package system's
+    own notes; whatever else comes and goes meanwhile is another's."""
     places = "/usr", "/etc", "/opt", "/var/lib", "/var/games", "/var/opt", "/srv"
     notes = "-not", "-path", "/var/lib/dpkg/*", "-not", "-path", "/var/lib/apt/*"
-    found = subprocess.run(["find", *places, "-xdev", *notes], capture_output=True, text=True, check=False)
+    found = subprocess.run(["find", *places, "-xdev", "-iname", "*gloomdeck*", *notes], capture_output=True, text=True,
+                           check=False)
     return set(found.stdout.splitlines())
+
+
+def installed_files():
+    """All that the installed package says is its own; a folder may be another's too."""
+    names = map(pathlib.Path, run("dpkg", "-L", "gloomdeck").split("\n"))
+    return {str(path) for path in names if path.is_symlink() or not path.is_dir()}
 
 
 def lasting(world):
     """The life of the package with two users: older version, upgrade, removal."""
     display, ann, zoe = world.display, world.ann, world.zoe
-    before = system_files()
+    before = own_names()
     yield "installed"
     run("dpkg", "--install", older_package(world.package, world.folder))
+    installed = installed_files()
     boards = {}
     for player, hero in (ann, "Ann"), (zoe, "Zoe"):
         with playing(display, player) as play:
@@ -177,8 +187,9 @@ def lasting(world):
 
     yield "removed"
     kept = {player: read_saved(player.share / "gloomdeck") for player in (ann, zoe)}
+    installed |= installed_files()
     run("dpkg", "--purge", "gloomdeck")
-    left = system_files() - before
+    left = own_names() - before | set(filter(os.path.lexists, installed))
     check(not left, f"left behind: {' '.join(sorted(left))[:300]}")
     for player, saved in kept.items():
         check(read_saved(player.share / "gloomdeck") == saved, f"the game of {player.name} is not what it was")

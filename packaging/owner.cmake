@@ -1,9 +1,11 @@
 # What the owner of the game has to choose; each is said here (the licence: in README.md) and nowhere else.
 
-# Nothing stands at example.org, which is reserved for places that do not exist: the homepage, from which the
-# pictures of the software centres come too, the address of the maintainer, and the reversed domain name by which
-# software centres tell one program from another.
-set(GLOOMDECK_HOMEPAGE "https://gloomdeck.example.org")
+# The homepage, from which the pictures of the software centres come too; while it is empty the packages name none.
+set(GLOOMDECK_HOMEPAGE "")
+
+# No package is without these two, so they stand at example.org, which is reserved for places that do not exist: the
+# address of the maintainer, and the reversed domain name by which software centres tell one program from another. The
+# latter can never change once a package is published.
 set(GLOOMDECK_MAINTAINER "The makers of Gloomdeck <gloomdeck@example.org>")
 set(GLOOMDECK_ID "org.example.gloomdeck")
 

@@ -25,6 +25,16 @@ pack() {
     mv "$made"/gloomdeck-*.tar.gz "$made"/gloomdeck_*.deb "$2"
 }
 
+# say_unsettled: in one line, what the owner has not chosen yet.
+say_unsettled() {
+    local owner="$top/packaging/owner.cmake" open=() IFS=,
+    ! grep -q '^set(GLOOMDECK_ID "org.example' "$owner" || open+=("the AppStream id above all since it can never change later")
+    ! grep -q '^set(GLOOMDECK_MAINTAINER ".*example.org' "$owner" || open+=(" the maintainer's address")
+    ! grep -q '^set(GLOOMDECK_HOMEPAGE "")' "$owner" || open+=(" the homepage")
+    [ ${#open[@]} = 0 ] ||
+        printf '%s: before a first publication settle in packaging/owner.cmake: %s\n' "$me" "${open[*]}" >&2
+}
+
 # release COMMIT SOURCES FOLDER: builds in SOURCES, whose contents it replaces, and leaves the packages in FOLDER.
 # Everything in them has the date of the commit. No cache takes part, so that a second build is one.
 release() {
