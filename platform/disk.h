@@ -18,6 +18,9 @@ struct NewContents {
     Bytes contents;
 };
 
+/// The folder in which a file of that name lies.
+std::string folderOf(const std::string& name);
+
 /// Writes all of them or none. Where the folder takes no new file the old ones are written in place, one
 /// after the other. A failure leaves the old files and nothing beside them, and reports nothing.
 void writeTogether(const std::vector<NewContents>& files);

@@ -1,31 +1,23 @@
 // Files read whole and written whole, and what a path stands for.
 #include "platform/files.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
 
-#include "platform/descriptor.h"
 #include "platform/disk.h"
+#include "platform/file_system.h"
 #include "platform/host.h"
 
 namespace gloomdeck {
 
 namespace {
 
-namespace fs = std::filesystem;
+using file_system::Kind;
+using file_system::kindOf;
 
 constexpr std::size_t largestFile = std::size_t{64} << 20;
 
 // A link is followed, so that the file itself is replaced.
-std::string resolved(const std::string& path) {
-    std::error_code error;
-    const fs::path real = fs::canonical(nativePath(path), error);
-    return error ? nativePath(path) : real.string();
-}
+std::string resolved(const std::string& path) { return file_system::resolved(nativePath(path)); }
 
 // Where the contents of a file stand that is named so.
 std::string standing(const FilesTogether& together, const std::string& name) {
@@ -36,24 +28,11 @@ std::string standing(const FilesTogether& together, const std::string& name) {
 
 // Also where it cannot be told.
 bool isPlainFile(const std::string& name) {
-    std::error_code error;
-    const fs::file_status status = fs::status(name, error);
-    return fs::is_regular_file(status) || status.type() == fs::file_type::none;
+    const Kind kind = kindOf(name);
+    return kind == Kind::plainFile || kind == Kind::unknown;
 }
 
-std::optional<Bytes> wholeFile(const std::string& name) {
-    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.number < 0) return {};
-    Bytes contents;
-    Bytes block(65536);
-    while (true) {
-        const ssize_t got = ::read(file.number, block.data(), block.size());
-        if (got == 0) return contents;
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0 || contents.size() + static_cast<std::size_t>(got) > largestFile) return {};
-        contents.insert(contents.end(), block.begin(), block.begin() + got);
-    }
-}
+std::optional<Bytes> wholeFile(const std::string& name) { return file_system::read(name, largestFile); }
 
 // The file of that name, with the contents that stand at the place; not open where there can be none of that
 // name, and none where there is one that cannot be read.
@@ -63,8 +42,7 @@ std::optional<File> opened(const std::string& name, const std::string& place) {
         if (!contents) return {};
         return File{.path = name, .contents = std::move(*contents)};
     }
-    std::error_code error;
-    if (fs::exists(name, error) || !fs::is_directory(fs::path(name).parent_path(), error)) return File{};
+    if (kindOf(name) != Kind::nothing || kindOf(folderOf(name)) != Kind::folder) return File{};
     return File{.path = name, .contents = {}, .changed = true};
 }
 
@@ -97,7 +75,7 @@ void closeFile(File& file) {
 }
 
 FilesTogether::FilesTogether(const std::vector<std::string>& paths)
-    : lock(fs::path(nativePath(paths.at(0))).parent_path().string()), names(paths.size()) {
+    : lock(folderOf(nativePath(paths.at(0)))), names(paths.size()) {
     std::transform(paths.begin(), paths.end(), names.begin(), resolved);
     clear = settleFiles(names);
     // What settling has put in its place can be resolved only now.

@@ -75,10 +75,11 @@ void closeFile(File& file) {
     file = {};
 }
 
-FolderLock::FolderLock(const std::string& /*folder*/) : descriptor(noLock) {}
-FolderLock::~FolderLock() { descriptor = noLock; }
+FolderLock::FolderLock(const std::string& /*folder*/) : lock(noLock) {}
+FolderLock::~FolderLock() { lock = noLock; }
 
-FilesTogether::FilesTogether(const std::vector<std::string>& paths) : lock({}), names(paths) {}
+FilesTogether::FilesTogether(const std::vector<std::string>& paths)
+    : lock({}), names(paths.begin(), paths.end()) {}
 
 bool fileExists(const FilesTogether& /*together*/, const std::string& path) { return fileExists(path); }
 

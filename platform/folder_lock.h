@@ -1,6 +1,7 @@
 // One copy of the program at a time reads or writes a folder's files.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace gloomdeck {
@@ -14,7 +15,7 @@ struct FolderLock {
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    int descriptor;
+    std::intptr_t lock;  // what file_system::unlockFolder wants
 };
 
 }  // namespace gloomdeck
