@@ -29,10 +29,10 @@ void waitForRelease() {
     while (leftIsHeld(getMouse()) && !programIsEnding()) pausePolling(1);
 }
 
-bool acknowledges(const std::string& key, const std::string& wanted) {
-    if (key.empty()) return false;
-    return wanted.empty() || key == wanted || key == keycode::enter || key == keycode::escape ||
-           key == keycode::space;
+bool acknowledges(const std::string& given, const std::string& wanted) {
+    if (given.empty()) return false;
+    return wanted.empty() || given == wanted || given == keycode::enter || given == keycode::escape ||
+           given == keycode::space;
 }
 
 }  // namespace
