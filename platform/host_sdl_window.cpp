@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/desktop_system.h"
 #include "window_icon.h"
 
 namespace gloomdeck::host {
@@ -27,25 +28,15 @@ Extent frameSize;
 const Colour* shownPixels = nullptr;  // of the frame shown last
 double knownPeriod = 0;               // seconds; 0: not asked yet
 
-bool isSet(const char* variable) { return std::getenv(variable) != nullptr; }
-
-// Where nothing speaks of Wayland its library would complain on standard error.
-const char* windowSystems() {
-    const bool wayland = isSet("XDG_RUNTIME_DIR") || isSet("WAYLAND_DISPLAY") || isSet("WAYLAND_SOCKET");
-    return wayland ? "x11,wayland" : "x11";
-}
-
 // The software path needs no graphics driver: a tenth of the memory, and one thread.
 void setHints() {
-    SDL_SetHint(SDL_HINT_VIDEODRIVER, windowSystems());
+    desktop::chooseWindowSystem();
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
-    setenv("SDL_VIDEO_X11_WMCLASS", "gloomdeck", 0);
-    setenv("SDL_VIDEO_WAYLAND_WMCLASS", "gloomdeck", 0);
 }
 
 // Dropped things come with memory to free, and nothing here wants them.

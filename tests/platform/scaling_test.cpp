@@ -61,10 +61,12 @@ TEST(Scaling, EnlargedRowsAreHardBlocks) {
     for (const int scale : {1, 2, 3, 4, 5})
         for (const int border : {0, 1}) {
             const int width = 2 * scale + 2 * border;
-            Pixels expected(static_cast<std::size_t>(width * 2 * scale), 0);
-            for (int y = scale; y < 2 * scale; ++y)
-                for (int x = 0; x < 2 * scale; ++x)
-                    expected[static_cast<std::size_t>(y * width + border + x)] = x < scale ? 3 : 4;
+            Pixels expected;
+            for (int y = 0; y < 2 * scale; ++y)
+                for (int x = -border; x < 2 * scale + border; ++x) {
+                    const bool isDrawn = y >= scale && x >= 0 && x < 2 * scale;
+                    expected.push_back(!isDrawn ? 0 : x < scale ? 3 : 4);
+                }
             const Rect lowerRow{border, scale, border + 2 * scale - 1, 2 * scale - 1};
             EXPECT_EQ(drawn({2, 2}, pixels, {1, 1}, {width, 2 * scale}, lowerRow), expected) << scale;
         }
