@@ -70,6 +70,31 @@ void bakeWindowIcon(const fs::path& file) {
     write(file, out + "};\n\n}  // namespace gloomdeck\n");
 }
 
+void addLittle(std::string& bytes, std::size_t value, int count) {
+    for (int i = 0; i < count; ++i) bytes += static_cast<char>(value >> 8 * i & 0xFF);
+}
+
+// For Windows: one file of all sizes, each as it would be a file of its own.
+void bakeIconFile(const fs::path& file) {
+    std::string head;
+    std::string pictures;
+    addLittle(head, 0, 2);
+    addLittle(head, 1, 2);  // icons
+    addLittle(head, std::size(iconSizes), 2);
+    const std::size_t headSize = 6 + 16 * std::size(iconSizes);
+    for (const int size : iconSizes) {
+        const std::string picture = pngFile(paintIcon(size));
+        for (const int side : {size, size}) addLittle(head, static_cast<std::size_t>(side), 1);  // 256 is 0
+        addLittle(head, 0, 2);                                                                   // no palette
+        addLittle(head, 1, 2);                                                                   // planes
+        addLittle(head, 32, 2);  // bits a pixel
+        addLittle(head, picture.size(), 4);
+        addLittle(head, headSize + pictures.size(), 4);
+        pictures += picture;
+    }
+    write(file, head + pictures);
+}
+
 void bakeSheets(const fs::path& folder) {
     for (const Sheet& sheet : contactSheets()) write(folder / (sheet.name + ".png"), pngFile(sheet.picture));
 }
@@ -81,6 +106,8 @@ bool bake(const std::string& option, const std::string& target) {
         bakePageIcons(target);
     } else if (option == "--window-icon") {
         bakeWindowIcon(target);
+    } else if (option == "--icon-file") {
+        bakeIconFile(target);
     } else if (option == "--sheet") {
         bakeSheets(target);
     } else {
@@ -109,9 +136,8 @@ int main(int argc, char** argv) {
     try {
         if (gloomdeck::art::run(argc, argv)) return 0;
         std::fputs(
-            "usage: artbake FOLDER | --icons FOLDER | --page-icons FOLDER | --window-icon FILE | --sheet "
-            "FOLDER | "
-            "--hashes\n",
+            "usage: artbake FOLDER | --icons FOLDER | --page-icons FOLDER | --window-icon FILE | --icon-file "
+            "FILE | --sheet FOLDER | --hashes\n",
             stderr);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "artbake: %s\n", failure.what());

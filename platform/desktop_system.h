@@ -12,7 +12,8 @@ namespace gloomdeck::host::desktop {
 std::string startingFolder();
 
 /// From now on the flag is set when the system asks the program to end, be it in the middle of anything.
-void watchForEnd(std::atomic<bool>& asked);
+/// Where the process may be gone as soon as it has answered, save is called before that.
+void watchForEnd(std::atomic<bool>& asked, void (*save)());
 
 /// Seconds of a clock that is never set.
 double seconds();
@@ -25,6 +26,9 @@ void chooseWindowSystem();
 
 /// Says a line where somebody may see it.
 void say(const std::string& line);
+
+/// Says why the program ends before it has a window.
+void sayWithoutWindow(const std::string& line);
 
 /// Ends the process, and nothing else is done.
 [[noreturn]] void endAtOnce(int exitCode);

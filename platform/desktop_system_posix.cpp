@@ -66,7 +66,7 @@ std::string startingFolder() {
     return fs::absolute(named, error).string();
 }
 
-void watchForEnd(std::atomic<bool>& asked) {
+void watchForEnd(std::atomic<bool>& asked, void (* /*save*/)()) {
     endAsked = &asked;
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) handleSignal(number);
     std::signal(SIGPIPE, SIG_IGN);  // a display that went away answers a write with an error
@@ -92,6 +92,8 @@ void chooseWindowSystem() {
 }
 
 void say(const std::string& line) { std::fprintf(stderr, "gloomdeck: %s\n", line.c_str()); }
+
+void sayWithoutWindow(const std::string& line) { say(line); }
 
 void endAtOnce(int exitCode) { _exit(exitCode); }
 

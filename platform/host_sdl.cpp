@@ -47,11 +47,11 @@ void noteEnd(InputQueue& queue) {
 }  // namespace
 
 void open(int width, int height) {
-    desktop::watchForEnd(endSignalled);
+    desktop::watchForEnd(endSignalled, saveOnce);
     programFolder();  // made before the handler below, it is still there when that saves
     std::atexit(noteProcessExit);
     if (openDesktopWindow({width, height}, lastTitle)) return;
-    warn("there is no display to open a window on; start it on a desktop");
+    desktop::sayWithoutWindow("there is no display to open a window on; start it on a desktop");
     end(EXIT_FAILURE);
 }
 
