@@ -7,6 +7,8 @@ find_package(SDL2 REQUIRED PATHS ${GLOOMDECK_SDL} NO_DEFAULT_PATH)
 add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/gloomdeck.ico
   COMMAND ${GLOOMDECK_PAINTED}/art/artbake --icon-file ${CMAKE_BINARY_DIR}/gloomdeck.ico
   DEPENDS ${GLOOMDECK_PAINTED}/art/artbake VERBATIM)
+include(packaging/owner.cmake)
+configure_file(packaging/windows/readme.txt.in ${CMAKE_BINARY_DIR}/README.txt @ONLY)
 configure_file(packaging/windows/gloomdeck.rc.in ${CMAKE_BINARY_DIR}/gloomdeck.rc @ONLY)
 enable_language(RC)
 set_source_files_properties(${CMAKE_BINARY_DIR}/gloomdeck.rc PROPERTIES
@@ -17,4 +19,4 @@ add_executable(gloomdeck WIN32 shell/main.cpp
   ${CMAKE_BINARY_DIR}/gloomdeck.rc)
 target_include_directories(gloomdeck PRIVATE ${GLOOMDECK_PAINTED}/generated)
 target_link_libraries(gloomdeck PRIVATE gloomdeck_game SDL2::SDL2-static)
-target_link_options(gloomdeck PRIVATE -static -s)
+target_link_options(gloomdeck PRIVATE -static -s LINKER:--no-insert-timestamp)
